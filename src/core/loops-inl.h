@@ -1,0 +1,157 @@
+// Loop skeletons: they own unrolling, alignment, tails and the in-place rule.
+//
+// A skeleton computes vectors with a body, a functor whose call operator body(d, i) gives the
+// results of elements i .. i + Lanes(d) - 1 for any vector tag d of up to full width. It never asks
+// for an element outside 0 .. n - 1.
+#if defined(VEKS_CORE_LOOPS_INL_H) == defined(HWY_TARGET_TOGGLE)
+#ifdef VEKS_CORE_LOOPS_INL_H
+#undef VEKS_CORE_LOOPS_INL_H
+#else
+#define VEKS_CORE_LOOPS_INL_H
+#endif
+
+#include <hwy/cache_control.h>
+#include <hwy/highway.h>
+
+#include "core/targets.h"
+#include "veks/status.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace veks {
+namespace HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Lanes before the first boundary of `lanes` lanes at or after p; 1 .. lanes, so that a full vector
+// at p covers them. A pointer that is aligned to less than its element gets some valid answer.
+template <class T>
+HWY_INLINE size_t lanesToBoundary(const T* p, size_t lanes) {
+  return lanes - (reinterpret_cast<uintptr_t>(p) / sizeof(T)) % lanes;
+}
+
+// n elements, at most two vectors of tag d: two vectors that overlap, or the same for halves. Both
+// are computed before the first store.
+template <class D, class T, class Body>
+HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
+  constexpr size_t kLanes = MaxLanes(D());
+  if (n >= kLanes) {
+    const auto first = body(d, 0);
+    const auto last = body(d, n - kLanes);
+    hn::StoreU(first, d, dst);
+    hn::StoreU(last, d, dst + n - kLanes);
+  } else if constexpr (kLanes > 1) {
+    produceShort(hn::Half<D>(), body, dst, n);
+  }
+}
+
+enum class Stores { kCached, kStreaming };
+
+// dst[i] = body for i = 0 .. n - 1, in ascending order. The body may read dst: at the same
+// positions or at later ones, since the two vectors that overlap others are computed first and
+// stored last.
+template <Stores stores, class T, class Body>
+HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
+  const hn::ScalableTag<T> d;
+  constexpr size_t kLanes = MaxLanes(d);
+  const auto first = body(d, 0);
+  const auto last = body(d, n - kLanes);
+  size_t i = lanesToBoundary(dst, kLanes);
+  for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
+    const auto v0 = body(d, i);
+    const auto v1 = body(d, i + kLanes);
+    const auto v2 = body(d, i + 2 * kLanes);
+    const auto v3 = body(d, i + 3 * kLanes);
+    if constexpr (stores == Stores::kStreaming) {
+      hn::Stream(v0, d, dst + i);
+      hn::Stream(v1, d, dst + i + kLanes);
+      hn::Stream(v2, d, dst + i + 2 * kLanes);
+      hn::Stream(v3, d, dst + i + 3 * kLanes);
+    } else {
+      hn::StoreU(v0, d, dst + i);
+      hn::StoreU(v1, d, dst + i + kLanes);
+      hn::StoreU(v2, d, dst + i + 2 * kLanes);
+      hn::StoreU(v3, d, dst + i + 3 * kLanes);
+    }
+  }
+  for (; i + kLanes < n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
+  if constexpr (stores == Stores::kStreaming) hwy::FlushStream();
+  hn::StoreU(first, d, dst);
+  hn::StoreU(last, d, dst + n - kLanes);
+}
+
+// Whether n elements from dst on are better written past the caches. Not so in place: what is read
+// there is in the caches already.
+template <class T>
+HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
+  const bool aligned = reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0;
+  return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && !inPlace && aligned;
+}
+
+template <class T, class Body>
+HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
+  const hn::ScalableTag<T> d;
+  if (n <= 2 * MaxLanes(d)) return produceShort(d, body, dst, n);
+  if (wantsStreaming(dst, n, inPlace)) return produceLoop<Stores::kStreaming>(body, dst, n);
+  produceLoop<Stores::kCached>(body, dst, n);
+}
+
+// What an operation tag does to vectors: Operation<Op>()(d, v ...) gives the vector of results. The
+// families specialise it for their tags.
+template <class Op>
+struct Operation;
+
+template <class Op, class T>
+struct OneSource {
+  const T* src;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return Operation<Op>()(d, hn::LoadU(d, src + i));
+  }
+};
+
+template <class Op, class T>
+struct TwoSources {
+  const T* src1;
+  const T* src2;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return Operation<Op>()(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i));
+  }
+};
+
+template <class Op, class T>
+struct SourceAndConstant {
+  const T* src;
+  T val;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return Operation<Op>()(d, hn::LoadU(d, src + i), hn::Set(d, val));
+  }
+};
+
+// dst[i] = Op(src[i])
+template <class Op, class T>
+VekStatus MapOne(const T* src, T* dst, size_t n) {
+  produce(OneSource<Op, T>{src}, dst, n, src == dst);
+  return vekStsOk;
+}
+
+// dst[i] = Op(src1[i], src2[i])
+template <class Op, class T>
+VekStatus MapTwo(const T* src1, const T* src2, T* dst, size_t n) {
+  produce(TwoSources<Op, T>{src1, src2}, dst, n, src1 == dst || src2 == dst);
+  return vekStsOk;
+}
+
+// dst[i] = Op(src[i], val)
+template <class Op, class T>
+VekStatus MapConstant(const T* src, T val, T* dst, size_t n) {
+  produce(SourceAndConstant<Op, T>{src, val}, dst, n, src == dst);
+  return vekStsOk;
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace veks
+HWY_AFTER_NAMESPACE();
+
+#endif

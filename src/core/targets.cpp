@@ -1,0 +1,65 @@
+#include "core/targets.h"
+
+#include <unistd.h>
+
+#include "core/processor.h"
+#include "veks/core/services.h"
+
+namespace veks {
+namespace {
+
+struct Target {
+  const char* name;
+  bool (*isAvailable)();
+};
+
+bool always() {
+  return true;
+}
+
+constexpr Target kTargets[] = {
+#if HWY_TARGETS & HWY_EMU128
+    {"EMU128", always},
+#endif
+#if HWY_TARGETS & HWY_SSE4
+    {"SSE4", hasSse4},
+#endif
+#if HWY_TARGETS & HWY_AVX2
+    {"AVX2", hasAvx2},
+#endif
+#if HWY_TARGETS & HWY_AVX3
+    {"AVX3", hasAvx512},
+#endif
+};
+constexpr int kTargetsOfBuild = sizeof(kTargets) / sizeof(kTargets[0]);
+
+// Runs before the initialisers of ordinary static objects, whose code may already call veks.
+__attribute__((constructor(101))) void chooseTarget() {
+  activeTarget = targetCount() - 1;
+#ifdef _SC_LEVEL3_CACHE_SIZE
+  const long cache = sysconf(_SC_LEVEL3_CACHE_SIZE);
+  if (cache > 0) streamingBytes = static_cast<size_t>(cache);
+#endif
+}
+
+}  // namespace
+
+int activeTarget = 0;
+size_t streamingBytes = size_t{32} << 20;
+
+// The first target is the baseline of the build: the processor has it, or no code would run.
+int targetCount() {
+  int count = 1;
+  while (count < kTargetsOfBuild && kTargets[count].isAvailable()) ++count;
+  return count;
+}
+
+const char* targetName(int target) {
+  return kTargets[target].name;
+}
+
+}  // namespace veks
+
+const char* vekGetTargetName() {
+  return veks::targetName(veks::activeTarget);
+}

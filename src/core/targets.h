@@ -1,0 +1,74 @@
+// SIMD targets and the choice among them.
+//
+// A kernel is a template in namespace veks::HWY_NAMESPACE of a *-inl.h file, which is compiled once
+// for each target of the build. VEKS_KERNEL(Name<Args>) is a pointer to its instance for the target
+// of the running processor.
+#ifndef VEKS_CORE_TARGETS_H
+#define VEKS_CORE_TARGETS_H
+
+// Before any Highway header. EMU128 works with the g++ releases that Highway 1.0.3 distrusts: they
+// carry the fix for the vectoriser fault behind that list. No kernel needs AES or CLMUL.
+#define HWY_BROKEN_EMU128 0
+#define HWY_DISABLE_PCLMUL_AES 1
+#ifdef VEKS_ENABLE_AVX512
+#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3_DL)
+#else
+#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3 | HWY_AVX3_DL)
+#endif
+#include <hwy/detect_targets.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+#if HWY_TARGETS & HWY_EMU128
+#define VEKS_ON_EMU128(...) &::veks::N_EMU128::__VA_ARGS__,
+#else
+#define VEKS_ON_EMU128(...)
+#endif
+#if HWY_TARGETS & HWY_SSE4
+#define VEKS_ON_SSE4(...) &::veks::N_SSE4::__VA_ARGS__,
+#else
+#define VEKS_ON_SSE4(...)
+#endif
+#if HWY_TARGETS & HWY_AVX2
+#define VEKS_ON_AVX2(...) &::veks::N_AVX2::__VA_ARGS__,
+#else
+#define VEKS_ON_AVX2(...)
+#endif
+#if HWY_TARGETS & HWY_AVX3
+#define VEKS_ON_AVX3(...) &::veks::N_AVX3::__VA_ARGS__,
+#else
+#define VEKS_ON_AVX3(...)
+#endif
+
+// The kernel for the active target: VEKS_KERNEL(MapTwo<And, Vek8u>). nullptr only takes the place
+// after the last comma.
+#define VEKS_KERNEL(...)                                                       \
+  ::veks::kernelOfTarget<VEKS_ON_EMU128(__VA_ARGS__) VEKS_ON_SSE4(__VA_ARGS__) \
+                             VEKS_ON_AVX2(__VA_ARGS__) VEKS_ON_AVX3(__VA_ARGS__) nullptr>()
+
+namespace veks {
+
+// Position of the active target among the targets of the build, worst first. Set when the library
+// is loaded and constant from then on; calls before that run on the worst target.
+extern int activeTarget;
+
+// Destinations of at least this many bytes are written past the caches.
+extern size_t streamingBytes;
+
+// What the static library offers to tests: all targets that both the build and the processor have,
+// worst first, and the choice among them.
+int targetCount();
+const char* targetName(int target);
+void useTarget(int target);
+
+template <auto first, auto... rest>
+inline auto kernelOfTarget() {
+  static constexpr decltype(first) table[] = {first, rest...};
+  return table[activeTarget];
+}
+
+}  // namespace veks
+
+#endif
