@@ -1,0 +1,16 @@
+// The element operations of the vector kernels, as tags that are the same for every SIMD target.
+// The *-inl.h files specialise Operation for them.
+#ifndef VEKS_VECTOR_OPERATIONS_H
+#define VEKS_VECTOR_OPERATIONS_H
+
+namespace veks {
+
+struct And {};
+struct Or {};
+struct Xor {};
+struct Not {};
+struct SwapBytes {};
+
+}  // namespace veks
+
+#endif
