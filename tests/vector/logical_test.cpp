@@ -1,0 +1,176 @@
+// Bitwise logic and shifts against element loops.
+#include <limits>
+
+#include "support.h"
+#include "veks/vector/logical.h"
+
+namespace veks::test {
+namespace {
+
+template <class T, class Reference>
+void checkTwo(VekStatus (*out)(const T*, const T*, T*, int), VekStatus (*in)(const T*, T*, int),
+              const Reference& reference) {
+  onEveryTarget([&] {
+    for (int len : testLengths()) {
+      const std::vector<T> src1 = randomBits<T>(static_cast<size_t>(len), 1);
+      const std::vector<T> src2 = randomBits<T>(static_cast<size_t>(len), 2);
+      std::vector<T> expected(src1.size());
+      for (size_t i = 0; i < src1.size(); ++i) {
+        expected[i] = static_cast<T>(reference(src1[i], src2[i]));
+      }
+      std::vector<T> dst(src1.size());
+      ASSERT_EQ(out(src1.data(), src2.data(), dst.data(), len), vekStsOk);
+      ASSERT_TRUE(sameBits(expected, dst));
+      std::vector<T> srcDst = src2;
+      ASSERT_EQ(in(src1.data(), srcDst.data(), len), vekStsOk);
+      ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
+    }
+  });
+}
+
+// Parameter is the type of the constant or of the shift count.
+template <class T, class Parameter, class Reference>
+void checkParameter(VekStatus (*out)(const T*, Parameter, T*, int),
+                    VekStatus (*in)(Parameter, T*, int), const std::vector<Parameter>& parameters,
+                    const std::vector<int>& lengths, const Reference& reference) {
+  onEveryTarget([&] {
+    for (Parameter parameter : parameters) {
+      SCOPED_TRACE(testing::Message() << "parameter " << +parameter);
+      for (int len : lengths) {
+        const std::vector<T> src = randomBits<T>(static_cast<size_t>(len));
+        std::vector<T> expected(src.size());
+        for (size_t i = 0; i < src.size(); ++i) {
+          expected[i] = static_cast<T>(reference(src[i], parameter));
+        }
+        std::vector<T> dst(src.size());
+        ASSERT_EQ(out(src.data(), parameter, dst.data(), len), vekStsOk);
+        ASSERT_TRUE(sameBits(expected, dst));
+        std::vector<T> srcDst = src;
+        ASSERT_EQ(in(parameter, srcDst.data(), len), vekStsOk);
+        ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
+      }
+    }
+  });
+}
+
+template <class T, class Reference>
+void checkConstant(VekStatus (*out)(const T*, T, T*, int), VekStatus (*in)(T, T*, int),
+                   const Reference& reference) {
+  checkParameter<T, T>(out, in, randomBits<T>(3, 3), testLengths(), reference);
+}
+
+TEST(Logical, And) {
+  const auto reference = [](auto a, auto b) { return a & b; };
+  checkTwo(veksAnd_8u, veksAnd_8u_I, reference);
+  checkTwo(veksAnd_16u, veksAnd_16u_I, reference);
+  checkTwo(veksAnd_32u, veksAnd_32u_I, reference);
+  checkConstant(veksAndC_8u, veksAndC_8u_I, reference);
+  checkConstant(veksAndC_16u, veksAndC_16u_I, reference);
+  checkConstant(veksAndC_32u, veksAndC_32u_I, reference);
+}
+
+TEST(Logical, Or) {
+  const auto reference = [](auto a, auto b) { return a | b; };
+  checkTwo(veksOr_8u, veksOr_8u_I, reference);
+  checkTwo(veksOr_16u, veksOr_16u_I, reference);
+  checkTwo(veksOr_32u, veksOr_32u_I, reference);
+  checkConstant(veksOrC_8u, veksOrC_8u_I, reference);
+  checkConstant(veksOrC_16u, veksOrC_16u_I, reference);
+  checkConstant(veksOrC_32u, veksOrC_32u_I, reference);
+}
+
+TEST(Logical, Xor) {
+  const auto reference = [](auto a, auto b) { return a ^ b; };
+  checkTwo(veksXor_8u, veksXor_8u_I, reference);
+  checkTwo(veksXor_16u, veksXor_16u_I, reference);
+  checkTwo(veksXor_32u, veksXor_32u_I, reference);
+  checkConstant(veksXorC_8u, veksXorC_8u_I, reference);
+  checkConstant(veksXorC_16u, veksXorC_16u_I, reference);
+  checkConstant(veksXorC_32u, veksXorC_32u_I, reference);
+}
+
+template <class T>
+void checkNot(VekStatus (*out)(const T*, T*, int), VekStatus (*in)(T*, int)) {
+  onEveryTarget([&] {
+    for (int len : testLengths()) {
+      const std::vector<T> src = randomBits<T>(static_cast<size_t>(len));
+      std::vector<T> expected(src.size());
+      for (size_t i = 0; i < src.size(); ++i) expected[i] = static_cast<T>(~src[i]);
+      std::vector<T> dst(src.size());
+      ASSERT_EQ(out(src.data(), dst.data(), len), vekStsOk);
+      ASSERT_TRUE(sameBits(expected, dst));
+      std::vector<T> srcDst = src;
+      ASSERT_EQ(in(srcDst.data(), len), vekStsOk);
+      ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
+    }
+  });
+}
+
+TEST(Logical, Not) {
+  checkNot(veksNot_8u, veksNot_8u_I);
+  checkNot(veksNot_16u, veksNot_16u_I);
+  checkNot(veksNot_32u, veksNot_32u_I);
+}
+
+// Shifted bit by bit, so that any count has a meaning.
+template <class T>
+T shiftedLeft(T x, int bits) {
+  for (; bits > 0 && x != 0; --bits) x = static_cast<T>(static_cast<uint64_t>(x) * 2);
+  return x;
+}
+
+template <class T>
+T shiftedRight(T x, int bits) {
+  for (; bits > 0 && x != 0 && x != static_cast<T>(-1); --bits) {
+    const bool odd = x % 2 != 0;
+    x = static_cast<T>((x - (odd ? 1 : 0)) / 2);
+  }
+  // All ones are zero or minus one after any further shift.
+  if (bits > 0 && x == static_cast<T>(-1) && !std::is_signed_v<T>) {
+    x = bits >= 8 * static_cast<int>(sizeof(T)) ? T{0} : static_cast<T>(x >> bits);
+  }
+  return x;
+}
+
+template <class T>
+void checkShifts(VekStatus (*left)(const T*, int, T*, int), VekStatus (*leftIn)(int, T*, int),
+                 VekStatus (*right)(const T*, int, T*, int), VekStatus (*rightIn)(int, T*, int)) {
+  std::vector<int> counts;
+  for (int bits = 0; bits <= 40; ++bits) counts.push_back(bits);
+  for (int bits : {63, 64, 65, 100, 255, 256, 65536, std::numeric_limits<int>::max()}) {
+    counts.push_back(bits);
+  }
+  const std::vector<int> lengths = {1, 2, 3, 7, 8, 15, 16, 31, 33, 64, 67, 129, 1000};
+  checkParameter<T, int>(left, leftIn, counts, lengths, shiftedLeft<T>);
+  checkParameter<T, int>(right, rightIn, counts, lengths, shiftedRight<T>);
+}
+
+TEST(Shift, MovesBitsByAnyCount) {
+  checkShifts(veksLShiftC_8u, veksLShiftC_8u_I, veksRShiftC_8u, veksRShiftC_8u_I);
+  checkShifts(veksLShiftC_16u, veksLShiftC_16u_I, veksRShiftC_16u, veksRShiftC_16u_I);
+  checkShifts(veksLShiftC_16s, veksLShiftC_16s_I, veksRShiftC_16s, veksRShiftC_16s_I);
+  checkShifts(veksLShiftC_32s, veksLShiftC_32s_I, veksRShiftC_32s, veksRShiftC_32s_I);
+}
+
+TEST(Shift, KnownValues) {
+  const struct {
+    VekStatus (*shift)(const Vek16s*, int, Vek16s*, int);
+    Vek16s x;
+    int bits;
+    Vek16s result;
+  } cases[] = {
+      {veksRShiftC_16s, -5, 1, -3},    {veksRShiftC_16s, 5, 1, 2},
+      {veksRShiftC_16s, -5, 16, -1},   {veksRShiftC_16s, 5, 100, 0},
+      {veksRShiftC_16s, -1, 3, -1},    {veksLShiftC_16s, 0x4000, 1, -32768},
+      {veksLShiftC_16s, 0x4000, 2, 0}, {veksLShiftC_16s, -1, 15, -32768},
+      {veksLShiftC_16s, -1, 16, 0},
+  };
+  for (const auto& c : cases) {
+    Vek16s result = 0;
+    EXPECT_EQ(c.shift(&c.x, c.bits, &result, 1), vekStsOk);
+    EXPECT_EQ(result, c.result) << c.x << " by " << c.bits;
+  }
+}
+
+}  // namespace
+}  // namespace veks::test
