@@ -14,51 +14,48 @@ namespace veks {
 
 template <class... T>
 inline VekStatus checkVectors(int len, const T*... vectors) {
-  if (((vectors == nullptr) || ...)) return vekErrNullPtr;
+  if ((!vectors || ...)) return vekErrNullPtr;
   return len <= 0 ? vekErrSize : vekStsOk;
 }
 
-// kernel(dst, len)
-template <class T>
-inline VekStatus generate(VekStatus (*kernel)(T*, size_t), T* dst, int len) {
-  const VekStatus status = checkVectors(len, dst);
-  return status != vekStsOk ? status : kernel(dst, static_cast<size_t>(len));
-}
-
-// kernel(constant, dst, len)
-template <class T>
-inline VekStatus generate(VekStatus (*kernel)(T, T*, size_t), T val, T* dst, int len) {
+// kernel(val, dst, n)
+template <class Kernel, class T>
+inline VekStatus generate(Kernel kernel, T val, T* dst, int len) {
   const VekStatus status = checkVectors(len, dst);
   return status != vekStsOk ? status : kernel(val, dst, static_cast<size_t>(len));
 }
 
-// kernel(src, dst, len)
-template <class S, class T>
-inline VekStatus mapOne(VekStatus (*kernel)(const S*, T*, size_t), const S* src, T* dst, int len) {
+// kernel(src, dst, n)
+template <class Kernel, class S, class T>
+inline VekStatus mapOne(Kernel kernel, const S* src, T* dst, int len) {
   const VekStatus status = checkVectors(len, src, dst);
   return status != vekStsOk ? status : kernel(src, dst, static_cast<size_t>(len));
 }
 
-// kernel(src1, src2, dst, len)
-template <class S1, class S2, class T>
-inline VekStatus mapTwo(VekStatus (*kernel)(const S1*, const S2*, T*, size_t), const S1* src1,
-                        const S2* src2, T* dst, int len) {
+// kernel(srcDst, n)
+template <class Kernel, class T>
+inline VekStatus mapInPlace(Kernel kernel, T* srcDst, int len) {
+  const VekStatus status = checkVectors(len, srcDst);
+  return status != vekStsOk ? status : kernel(srcDst, static_cast<size_t>(len));
+}
+
+// kernel(src1, src2, dst, n)
+template <class Kernel, class S1, class S2, class T>
+inline VekStatus mapTwo(Kernel kernel, const S1* src1, const S2* src2, T* dst, int len) {
   const VekStatus status = checkVectors(len, src1, src2, dst);
   return status != vekStsOk ? status : kernel(src1, src2, dst, static_cast<size_t>(len));
 }
 
-// kernel(src, constant, dst, len)
-template <class S, class C, class T>
-inline VekStatus mapConstant(VekStatus (*kernel)(const S*, C, T*, size_t), const S* src, C val,
-                             T* dst, int len) {
+// kernel(src, val, dst, n)
+template <class Kernel, class S, class C, class T>
+inline VekStatus mapConstant(Kernel kernel, const S* src, C val, T* dst, int len) {
   const VekStatus status = checkVectors(len, src, dst);
   return status != vekStsOk ? status : kernel(src, val, dst, static_cast<size_t>(len));
 }
 
-// kernel(src, bits, dst, len) with bits >= 0
-template <class T>
-inline VekStatus mapShift(VekStatus (*kernel)(const T*, int, T*, size_t), const T* src, int bits,
-                          T* dst, int len) {
+// kernel(src, bits, dst, n) with bits >= 0
+template <class Kernel, class T>
+inline VekStatus mapShift(Kernel kernel, const T* src, int bits, T* dst, int len) {
   const VekStatus status = checkVectors(len, src, dst);
   if (status != vekStsOk) return status;
   return bits < 0 ? vekErrShift : kernel(src, bits, dst, static_cast<size_t>(len));

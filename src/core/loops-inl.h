@@ -22,11 +22,11 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Lanes before the first boundary of `lanes` lanes at or after p; 1 .. lanes, so that a full vector
-// at p covers them. A pointer that is aligned to less than its element gets some valid answer.
+// Lanes before the first boundary of `lanes` lanes at or after p, less than `lanes`. A pointer that
+// is aligned to less than its element gets some valid answer.
 template <class T>
 HWY_INLINE size_t lanesToBoundary(const T* p, size_t lanes) {
-  return lanes - (reinterpret_cast<uintptr_t>(p) / sizeof(T)) % lanes;
+  return (0 - reinterpret_cast<uintptr_t>(p) / sizeof(T)) % lanes;
 }
 
 // n elements, at most two vectors of tag d: two vectors that overlap, or the same for halves. Both
@@ -46,9 +46,19 @@ HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
 
 enum class Stores { kCached, kStreaming };
 
-// dst[i] = body for i = 0 .. n - 1, in ascending order. The body may read dst: at the same
-// positions or at later ones, since the two vectors that overlap others are computed first and
-// stored last.
+template <Stores stores, class D, class V, class T>
+HWY_INLINE void store(D d, V v, T* dst) {
+  if constexpr (stores == Stores::kStreaming) {
+    hn::Stream(v, d, dst);
+  } else {
+    hn::StoreU(v, d, dst);
+  }
+}
+
+// dst[i] = body for i = 0 .. n - 1, in ascending order, n at least two vectors. The body may read
+// dst, at the same positions or at later ones: the two vectors that overlap others are computed
+// first and stored last. Each vector is stored before the next one is loaded, which is faster than
+// in groups.
 template <Stores stores, class T, class Body>
 HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   const hn::ScalableTag<T> d;
@@ -57,21 +67,10 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   const auto last = body(d, n - kLanes);
   size_t i = lanesToBoundary(dst, kLanes);
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
-    const auto v0 = body(d, i);
-    const auto v1 = body(d, i + kLanes);
-    const auto v2 = body(d, i + 2 * kLanes);
-    const auto v3 = body(d, i + 3 * kLanes);
-    if constexpr (stores == Stores::kStreaming) {
-      hn::Stream(v0, d, dst + i);
-      hn::Stream(v1, d, dst + i + kLanes);
-      hn::Stream(v2, d, dst + i + 2 * kLanes);
-      hn::Stream(v3, d, dst + i + 3 * kLanes);
-    } else {
-      hn::StoreU(v0, d, dst + i);
-      hn::StoreU(v1, d, dst + i + kLanes);
-      hn::StoreU(v2, d, dst + i + 2 * kLanes);
-      hn::StoreU(v3, d, dst + i + 3 * kLanes);
-    }
+    store<stores>(d, body(d, i), dst + i);
+    store<stores>(d, body(d, i + kLanes), dst + i + kLanes);
+    store<stores>(d, body(d, i + 2 * kLanes), dst + i + 2 * kLanes);
+    store<stores>(d, body(d, i + 3 * kLanes), dst + i + 3 * kLanes);
   }
   for (; i + kLanes < n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
   if constexpr (stores == Stores::kStreaming) hwy::FlushStream();
@@ -90,7 +89,11 @@ HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
 template <class T, class Body>
 HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
   const hn::ScalableTag<T> d;
-  if (n <= 2 * MaxLanes(d)) return produceShort(d, body, dst, n);
+  // The hints lay one and two vectors out without a taken branch: there it counts.
+  if (HWY_LIKELY(n <= 2 * MaxLanes(d))) {
+    if (HWY_LIKELY(n >= MaxLanes(d))) return produceShort(d, body, dst, n);
+    return produceShort(hn::Half<decltype(d)>(), body, dst, n);
+  }
   if (wantsStreaming(dst, n, inPlace)) return produceLoop<Stores::kStreaming>(body, dst, n);
   produceLoop<Stores::kCached>(body, dst, n);
 }

@@ -15,9 +15,9 @@ constexpr bool hasBit(uint32_t bits, int position) {
 }
 
 // Zeros if the processor does not have the leaf.
-CpuidRegisters cpuid(uint32_t leaf) {
+CpuidRegisters cpuid(uint32_t leaf, uint32_t subleaf = 0) {
   CpuidRegisters r{};
-  __get_cpuid_count(leaf, 0, &r.eax, &r.ebx, &r.ecx, &r.edx);
+  __get_cpuid_count(leaf, subleaf, &r.eax, &r.ebx, &r.ecx, &r.edx);
   return r;
 }
 
@@ -85,6 +85,29 @@ bool hasAvx512() {
   const uint32_t features = cpuid(7).ebx;  // F, DQ, BW and VL
   return hasAvx2() && hasBit(features, 16) && hasBit(features, 17) && hasBit(features, 30) &&
          hasBit(features, 31) && savesRegisters(kWithZmm);
+}
+
+// Two leaves of the same layout, each of another vendor's processors. Sizes from other sources add
+// up the caches of all cores.
+size_t largestCacheBytes() {
+  constexpr uint32_t kCacheLeaves[] = {4, 0x8000001D};
+  constexpr uint32_t kInstructionCache = 2;
+  size_t largest = 0;
+  for (uint32_t leaf : kCacheLeaves) {
+    for (uint32_t index = 0; index < 16; ++index) {
+      const CpuidRegisters cache = cpuid(leaf, index);
+      const uint32_t type = cache.eax & 31;
+      if (type == 0) break;
+      if (type == kInstructionCache) continue;
+      const size_t ways = (cache.ebx >> 22) + 1;
+      const size_t partitions = ((cache.ebx >> 12) & 1023) + 1;
+      const size_t lineBytes = (cache.ebx & 4095) + 1;
+      const size_t sets = size_t{cache.ecx} + 1;
+      const size_t bytes = ways * partitions * lineBytes * sets;
+      if (bytes > largest) largest = bytes;
+    }
+  }
+  return largest;
 }
 
 }  // namespace veks

@@ -2,6 +2,7 @@
 #ifndef VEKS_CORE_PROCESSOR_H
 #define VEKS_CORE_PROCESSOR_H
 
+#include <cstddef>
 #include <cstdint>
 
 #include "veks/types.h"
@@ -19,6 +20,9 @@ VekCpuType processorClass(const CpuidRegisters& leaf0, const CpuidRegisters& lea
 bool hasSse4();
 bool hasAvx2();
 bool hasAvx512();
+
+// Bytes of the largest data cache that CPUID describes; 0 if it describes none.
+size_t largestCacheBytes();
 
 }  // namespace veks
 

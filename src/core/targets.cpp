@@ -1,7 +1,5 @@
 #include "core/targets.h"
 
-#include <unistd.h>
-
 #include "core/processor.h"
 #include "veks/core/services.h"
 
@@ -36,10 +34,8 @@ constexpr int kTargetsOfBuild = sizeof(kTargets) / sizeof(kTargets[0]);
 // Runs before the initialisers of ordinary static objects, whose code may already call veks.
 __attribute__((constructor(101))) void chooseTarget() {
   activeTarget = targetCount() - 1;
-#ifdef _SC_LEVEL3_CACHE_SIZE
-  const long cache = sysconf(_SC_LEVEL3_CACHE_SIZE);
-  if (cache > 0) streamingBytes = static_cast<size_t>(cache);
-#endif
+  const size_t cache = largestCacheBytes();
+  if (cache > 0) streamingBytes = cache;
 }
 
 }  // namespace

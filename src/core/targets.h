@@ -19,7 +19,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <type_traits>
+
+#include "veks/status.h"
 
 #if HWY_TARGETS & HWY_EMU128
 #define VEKS_ON_EMU128(...) &::veks::N_EMU128::__VA_ARGS__,
@@ -42,20 +43,22 @@
 #define VEKS_ON_AVX3(...)
 #endif
 
-// The kernel for the active target: VEKS_KERNEL(MapTwo<And, Vek8u>). nullptr only takes the place
-// after the last comma.
-#define VEKS_KERNEL(...)                                                       \
-  ::veks::kernelOfTarget<VEKS_ON_EMU128(__VA_ARGS__) VEKS_ON_SSE4(__VA_ARGS__) \
-                             VEKS_ON_AVX2(__VA_ARGS__) VEKS_ON_AVX3(__VA_ARGS__) nullptr>()
+// The kernel of the active target, callable as VEKS_KERNEL(MapTwo<And, Vek8u>)(src1, src2, dst, n).
+// nullptr only takes the place after the last comma.
+#define VEKS_KERNEL(...)                                                                         \
+  ::veks::Kernel<VEKS_ON_EMU128(__VA_ARGS__) VEKS_ON_SSE4(__VA_ARGS__) VEKS_ON_AVX2(__VA_ARGS__) \
+                     VEKS_ON_AVX3(__VA_ARGS__) nullptr>()
 
 namespace veks {
 
+#define VEKS_HIDDEN __attribute__((visibility("hidden")))
+
 // Position of the active target among the targets of the build, worst first. Set when the library
 // is loaded and constant from then on; calls before that run on the worst target.
-extern int activeTarget;
+extern VEKS_HIDDEN int activeTarget;
 
 // Destinations of at least this many bytes are written past the caches.
-extern size_t streamingBytes;
+extern VEKS_HIDDEN size_t streamingBytes;
 
 // What the static library offers to tests: all targets that both the build and the processor have,
 // worst first, and the choice among them.
@@ -63,11 +66,21 @@ int targetCount();
 const char* targetName(int target);
 void useTarget(int target);
 
+// A kernel's instances for the targets of the build. The best target is compared with, not looked
+// up: the call is then a direct jump.
 template <auto first, auto... rest>
-inline auto kernelOfTarget() {
-  static constexpr decltype(first) table[] = {first, rest...};
-  return table[activeTarget];
-}
+struct Kernel {
+  using Pointer = decltype(first);
+  static constexpr int kTargets = sizeof...(rest);
+  static constexpr Pointer kInstances[] = {first, rest...};
+
+  template <class... Args>
+  VekStatus operator()(Args... args) const {
+    constexpr Pointer kBest = kInstances[kTargets - 1];
+    if (__builtin_expect(activeTarget == kTargets - 1, 1)) return kBest(args...);
+    return kInstances[activeTarget](args...);
+  }
+};
 
 }  // namespace veks
 

@@ -23,29 +23,38 @@ struct OneLanePattern {
 
 // Two lanes of eight bytes in turn.
 struct TwoLanePattern {
-  const uint64_t* bits;  // one full vector and a lane more
+  uint64_t low;
+  uint64_t high;
   template <class D>
-  HWY_INLINE auto operator()(D d, size_t i) const {
-    return hn::LoadU(d, bits + i % 2);
+  HWY_INLINE hn::VFromD<D> operator()(D d, size_t i) const {
+    const auto lows = hn::Set(d, low);
+    const auto highs = hn::Set(d, high);
+    if constexpr (MaxLanes(D()) == 1) {
+      return i % 2 == 0 ? lows : highs;
+    } else {
+      return i % 2 == 0 ? hn::InterleaveLower(d, lows, highs) : hn::InterleaveLower(d, highs, lows);
+    }
   }
 };
 
 // dst[i] = val, any element type of 1, 2, 4, 8 or 16 bytes, as a bit pattern.
 template <class T>
-VekStatus Fill(T val, T* dst, size_t n) {
-  constexpr bool kTwoLanes = sizeof(T) == 16;
-  using Lane = hwy::UnsignedFromSize<kTwoLanes ? 8 : sizeof(T)>;
-  Lane bits[sizeof(T) / sizeof(Lane)];
-  hwy::CopyBytes<sizeof(T)>(&val, bits);
-  Lane* const lanes = reinterpret_cast<Lane*>(dst);
-  if constexpr (kTwoLanes) {
-    constexpr size_t kLanes = MaxLanes(hn::ScalableTag<Lane>());
-    Lane pattern[kLanes + 2];
-    for (size_t i = 0; i < kLanes + 2; ++i) pattern[i] = bits[i % 2];
-    produce(TwoLanePattern{pattern}, lanes, 2 * n, false);
+HWY_INLINE void fill(T val, T* dst, size_t n) {
+  if constexpr (sizeof(T) == 16) {
+    uint64_t bits[2];
+    hwy::CopyBytes<16>(&val, bits);
+    produce(TwoLanePattern{bits[0], bits[1]}, reinterpret_cast<uint64_t*>(dst), 2 * n, false);
   } else {
-    produce(OneLanePattern<Lane>{bits[0]}, lanes, n, false);
+    using Lane = hwy::UnsignedFromSize<sizeof(T)>;
+    Lane bits;
+    hwy::CopyBytes<sizeof(T)>(&val, &bits);
+    produce(OneLanePattern<Lane>{bits}, reinterpret_cast<Lane*>(dst), n, false);
   }
+}
+
+template <class T>
+VekStatus Fill(T val, T* dst, size_t n) {
+  fill(val, dst, n);
   return vekStsOk;
 }
 

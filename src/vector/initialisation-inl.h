@@ -14,7 +14,8 @@ namespace veks {
 namespace HWY_NAMESPACE {
 
 inline VekStatus Zero(uint8_t* dst, size_t bytes) {
-  return Fill<uint8_t>(0, dst, bytes);
+  fill<uint8_t>(0, dst, bytes);
+  return vekStsOk;
 }
 
 struct Bytes {
@@ -33,14 +34,10 @@ HWY_INLINE void moveDown(const Bytes& body, uint8_t* dst, size_t n) {
   const auto last = body(d, n - kLanes);
   size_t end = n - reinterpret_cast<uintptr_t>(dst + n) % kLanes;
   for (; end >= 4 * kLanes; end -= 4 * kLanes) {
-    const auto v0 = body(d, end - kLanes);
-    const auto v1 = body(d, end - 2 * kLanes);
-    const auto v2 = body(d, end - 3 * kLanes);
-    const auto v3 = body(d, end - 4 * kLanes);
-    hn::StoreU(v0, d, dst + end - kLanes);
-    hn::StoreU(v1, d, dst + end - 2 * kLanes);
-    hn::StoreU(v2, d, dst + end - 3 * kLanes);
-    hn::StoreU(v3, d, dst + end - 4 * kLanes);
+    hn::StoreU(body(d, end - kLanes), d, dst + end - kLanes);
+    hn::StoreU(body(d, end - 2 * kLanes), d, dst + end - 2 * kLanes);
+    hn::StoreU(body(d, end - 3 * kLanes), d, dst + end - 3 * kLanes);
+    hn::StoreU(body(d, end - 4 * kLanes), d, dst + end - 4 * kLanes);
   }
   for (; end > kLanes; end -= kLanes) hn::StoreU(body(d, end - kLanes), d, dst + end - kLanes);
   hn::StoreU(last, d, dst + n - kLanes);
@@ -50,91 +47,128 @@ HWY_INLINE void moveDown(const Bytes& body, uint8_t* dst, size_t n) {
 inline VekStatus Move(const uint8_t* src, uint8_t* dst, size_t n) {
   const Bytes body{src};
   const size_t above = static_cast<size_t>(dst - src);  // huge for a destination below the source
-  if (above >= n) {
-    const bool overlap = static_cast<size_t>(src - dst) < n;
-    produce(body, dst, n, overlap);
-    return vekStsOk;
-  }
-  if (above == 0) return vekStsOk;
+  const size_t below = static_cast<size_t>(src - dst);
   const hn::ScalableTag<uint8_t> d;
-  if (n <= 2 * MaxLanes(d)) {
-    produceShort(d, body, dst, n);
-  } else {
+  if (HWY_LIKELY(n <= 2 * MaxLanes(d)) || HWY_LIKELY(above >= n)) {
+    produce(body, dst, n, below < n);
+  } else if (above > 0) {
     moveDown(body, dst, n);
   }
   return vekStsOk;
 }
 
+// An order of the bytes of a block: byte i of the result is byte source[i].
+struct ByteOrder {
+  uint8_t source[16];
+};
+
+// Elements of kSize bytes in reverse order, in a block of kBlock bytes.
+template <size_t kSize, size_t kBlock>
+constexpr ByteOrder reversedElements() {
+  ByteOrder order{};
+  for (size_t i = 0; i < kBlock; ++i) {
+    order.source[i] = static_cast<uint8_t>(kBlock - kSize - i / kSize * kSize + i % kSize);
+  }
+  return order;
+}
+
+// The bytes of each element of kSize bytes in reverse order.
+template <size_t kSize>
+constexpr ByteOrder reversedBytes() {
+  ByteOrder order{};
+  for (size_t i = 0; i < 16; ++i) order.source[i] = static_cast<uint8_t>(i ^ (kSize - 1));
+  return order;
+}
+
+template <class D>
+HWY_INLINE hn::VFromD<D> reordered(D d, hn::VFromD<D> v, const ByteOrder& order) {
+  const hn::Repartition<uint8_t, D> d8;
+  return hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(d8, v), hn::LoadDup128(d8, order.source)));
+}
+
 // The lanes of v in groups of kGroup, in reverse order.
-template <size_t kGroup, class D, class V>
-HWY_INLINE V reversed(D d, V v) {
-  constexpr size_t kLanes = MaxLanes(D());
-  if constexpr (kLanes <= kGroup) {
-    return v;
-  } else if constexpr (kGroup == 2) {
-    return hn::ConcatLowerUpper(d, v, v);
-  } else if constexpr (sizeof(hn::TFromD<D>) == 1 && kLanes > 2) {
-    const hn::Repartition<uint16_t, D> d16;
-    const auto pairs = hn::BitCast(d16, v);
-    const auto swapped = hn::Or(hn::ShiftLeft<8>(pairs), hn::ShiftRight<8>(pairs));
-    return hn::BitCast(d, hn::Reverse(d16, swapped));
-  } else if constexpr (sizeof(hn::TFromD<D>) == 1) {
-    const hn::Repartition<uint16_t, D> d16;
-    const auto pair = hn::BitCast(d16, v);
-    return hn::BitCast(d, hn::Or(hn::ShiftLeft<8>(pair), hn::ShiftRight<8>(pair)));
-  } else {
-    return hn::Reverse(d, v);
+template <size_t kGroup, class D>
+HWY_INLINE hn::VFromD<D> reversed(D d, hn::VFromD<D> v) {
+  constexpr size_t kElement = kGroup * sizeof(hn::TFromD<D>);
+  constexpr size_t kVector = MaxLanes(D()) * sizeof(hn::TFromD<D>);
+  constexpr size_t kBlock = kVector < 16 ? kVector : 16;
+  if constexpr (kElement < kBlock) {
+    static constexpr ByteOrder kOrder = reversedElements<kElement, kBlock>();
+    v = reordered(d, v, kOrder);
   }
+  if constexpr (kVector == 32) return hn::ConcatLowerUpper(d, v, v);
+  if constexpr (kVector > 32) return hn::ReverseBlocks(d, v);
+  return v;
 }
 
-// The elements i .. n - 1 - i that are left in the middle, less than two vectors of tag d.
+// The last elements of a vector first: body of the forward loop for separate vectors.
+template <size_t kGroup, class T>
+struct FromTheEnd {
+  const T* end;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return reversed<kGroup>(d, hn::LoadU(d, end - i - MaxLanes(D())));
+  }
+};
+
+// Swaps elements i .. n - 1 - i from both ends, at most two vectors of tag d.
 template <size_t kGroup, class D, class T>
-HWY_INLINE void flipMiddle(D d, const T* src, T* dst, size_t i, size_t n) {
+HWY_INLINE void flipMiddle(D d, T* srcDst, size_t i, size_t n) {
   constexpr size_t kLanes = MaxLanes(D());
-  if (n - 2 * i >= kLanes) {
-    const auto low = hn::LoadU(d, src + i);
-    const auto high = hn::LoadU(d, src + n - i - kLanes);
-    hn::StoreU(reversed<kGroup>(d, high), d, dst + i);
-    hn::StoreU(reversed<kGroup>(d, low), d, dst + n - i - kLanes);
+  if (HWY_LIKELY(n - 2 * i >= kLanes)) {
+    const auto low = hn::LoadU(d, srcDst + i);
+    const auto high = hn::LoadU(d, srcDst + n - i - kLanes);
+    hn::StoreU(reversed<kGroup>(d, high), d, srcDst + i);
+    hn::StoreU(reversed<kGroup>(d, low), d, srcDst + n - i - kLanes);
   } else if constexpr (kLanes > 1) {
-    flipMiddle<kGroup>(hn::Half<D>(), src, dst, i, n);
+    flipMiddle<kGroup>(hn::Half<D>(), srcDst, i, n);
   }
 }
 
-// dst[i] = src[n - 1 - i] for elements of 1, 2, 4, 8 or 16 bytes. Works from both ends to the
-// middle: each step reads the two vectors that it writes, so src may be dst.
+// Flip works on elements of 1, 2, 4, 8 or 16 bytes, as groups of one or two lanes.
 template <class T>
-VekStatus Flip(const T* pSrc, T* pDst, size_t len) {
-  constexpr size_t kGroup = sizeof(T) == 16 ? 2 : 1;
+struct FlipTypes {
+  static constexpr size_t kGroup = sizeof(T) == 16 ? 2 : 1;
   using Lane = hwy::UnsignedFromSize<sizeof(T) / kGroup>;
+};
+
+// srcDst[i] = srcDst[len - 1 - i]
+template <class T>
+VekStatus FlipInPlace(T* srcDst, size_t len) {
+  using Lane = typename FlipTypes<T>::Lane;
+  constexpr size_t kGroup = FlipTypes<T>::kGroup;
   const hn::ScalableTag<Lane> d;
   constexpr size_t kLanes = MaxLanes(d);
-  const Lane* const src = reinterpret_cast<const Lane*>(pSrc);
-  Lane* const dst = reinterpret_cast<Lane*>(pDst);
+  Lane* const lanes = reinterpret_cast<Lane*>(srcDst);
   const size_t n = kGroup * len;
   size_t i = 0;
-  for (; n - 2 * i >= 2 * kLanes; i += kLanes) {
-    const auto low = hn::LoadU(d, src + i);
-    const auto high = hn::LoadU(d, src + n - i - kLanes);
-    hn::StoreU(reversed<kGroup>(d, high), d, dst + i);
-    hn::StoreU(reversed<kGroup>(d, low), d, dst + n - i - kLanes);
+  for (; HWY_UNLIKELY(n - 2 * i > 2 * kLanes); i += kLanes) {
+    const auto low = hn::LoadU(d, lanes + i);
+    const auto high = hn::LoadU(d, lanes + n - i - kLanes);
+    hn::StoreU(reversed<kGroup>(d, high), d, lanes + i);
+    hn::StoreU(reversed<kGroup>(d, low), d, lanes + n - i - kLanes);
   }
-  if (n > 2 * i) flipMiddle<kGroup>(d, src, dst, i, n);
+  flipMiddle<kGroup>(d, lanes, i, n);
+  return vekStsOk;
+}
+
+// dst[i] = src[len - 1 - i]
+template <class T>
+VekStatus Flip(const T* src, T* dst, size_t len) {
+  using Lane = typename FlipTypes<T>::Lane;
+  constexpr size_t kGroup = FlipTypes<T>::kGroup;
+  if (HWY_UNLIKELY(src == dst)) return FlipInPlace<T>(dst, len);
+  const Lane* const end = reinterpret_cast<const Lane*>(src + len);
+  produce(FromTheEnd<kGroup, Lane>{end}, reinterpret_cast<Lane*>(dst), kGroup * len, false);
   return vekStsOk;
 }
 
 template <>
 struct Operation<SwapBytes> {
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V v) const {
-    if constexpr (sizeof(hn::TFromD<D>) == 2) {
-      return hn::Or(hn::ShiftLeft<8>(v), hn::ShiftRight<8>(v));
-    } else {
-      const auto outer = hn::Or(hn::ShiftLeft<24>(v), hn::ShiftRight<24>(v));
-      const auto low = hn::And(hn::ShiftRight<8>(v), hn::Set(d, 0xFF00u));
-      const auto high = hn::ShiftLeft<8>(hn::And(v, hn::Set(d, 0xFF00u)));
-      return hn::Or(outer, hn::Or(low, high));
-    }
+  template <class D>
+  HWY_INLINE hn::VFromD<D> operator()(D d, hn::VFromD<D> v) const {
+    static constexpr ByteOrder kOrder = reversedBytes<sizeof(hn::TFromD<D>)>();
+    return reordered(d, v, kOrder);
   }
 };
 

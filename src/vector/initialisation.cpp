@@ -213,7 +213,7 @@ VekStatus veksFlip_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
 }
 
 VekStatus veksFlip_8u_I(Vek8u* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek8u>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek8u>), pSrcDst, len);
 }
 
 VekStatus veksFlip_16u(const Vek16u* pSrc, Vek16u* pDst, int len) {
@@ -221,7 +221,7 @@ VekStatus veksFlip_16u(const Vek16u* pSrc, Vek16u* pDst, int len) {
 }
 
 VekStatus veksFlip_16u_I(Vek16u* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek16u>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek16u>), pSrcDst, len);
 }
 
 VekStatus veksFlip_32f(const Vek32f* pSrc, Vek32f* pDst, int len) {
@@ -229,7 +229,7 @@ VekStatus veksFlip_32f(const Vek32f* pSrc, Vek32f* pDst, int len) {
 }
 
 VekStatus veksFlip_32f_I(Vek32f* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek32f>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek32f>), pSrcDst, len);
 }
 
 VekStatus veksFlip_64f(const Vek64f* pSrc, Vek64f* pDst, int len) {
@@ -237,7 +237,7 @@ VekStatus veksFlip_64f(const Vek64f* pSrc, Vek64f* pDst, int len) {
 }
 
 VekStatus veksFlip_64f_I(Vek64f* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek64f>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek64f>), pSrcDst, len);
 }
 
 VekStatus veksFlip_16sc(const Vek16sc* pSrc, Vek16sc* pDst, int len) {
@@ -245,7 +245,7 @@ VekStatus veksFlip_16sc(const Vek16sc* pSrc, Vek16sc* pDst, int len) {
 }
 
 VekStatus veksFlip_16sc_I(Vek16sc* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek16sc>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek16sc>), pSrcDst, len);
 }
 
 VekStatus veksFlip_32fc(const Vek32fc* pSrc, Vek32fc* pDst, int len) {
@@ -253,7 +253,7 @@ VekStatus veksFlip_32fc(const Vek32fc* pSrc, Vek32fc* pDst, int len) {
 }
 
 VekStatus veksFlip_32fc_I(Vek32fc* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek32fc>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek32fc>), pSrcDst, len);
 }
 
 VekStatus veksFlip_64fc(const Vek64fc* pSrc, Vek64fc* pDst, int len) {
@@ -261,7 +261,7 @@ VekStatus veksFlip_64fc(const Vek64fc* pSrc, Vek64fc* pDst, int len) {
 }
 
 VekStatus veksFlip_64fc_I(Vek64fc* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(Flip<Vek64fc>), pSrcDst, pSrcDst, len);
+  return mapInPlace(VEKS_KERNEL(FlipInPlace<Vek64fc>), pSrcDst, len);
 }
 
 VekStatus veksSwapBytes_16u(const Vek16u* pSrc, Vek16u* pDst, int len) {

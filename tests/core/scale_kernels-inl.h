@@ -6,32 +6,27 @@
 #define VEKS_TESTS_SCALE_KERNELS_INL_H
 #endif
 
-#include "core/loops-inl.h"
 #include "core/scale-inl.h"
+#include "core/targets.h"
+#include "veks/status.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
-template <ScalePath path, class Dst, class Wide>
-struct Scaled {
-  const Wide* src;
-  int bits;
-  template <class D>
-  HWY_INLINE auto operator()(D d, size_t i) const {
-    return saturateTo<Dst>(d, scaleTo<path, Dst>(d, hn::LoadU(d, src + i), bits));
-  }
-};
-
 template <class Dst, class Wide>
 struct ScaleLoop {
   const Wide* src;
   Wide* dst;
-  size_t n;
+  size_t n;  // a multiple of the lanes
   int bits;
   template <class Tag>
-  HWY_INLINE VekStatus operator()(Tag /*tag*/) const {
-    produce(Scaled<Tag::value, Dst, Wide>{src, bits}, dst, n, false);
+  HWY_INLINE VekStatus operator()(Tag /*path*/) const {
+    const hn::ScalableTag<Wide> d;
+    for (size_t i = 0; i < n; i += MaxLanes(d)) {
+      const auto scaled = scaleTo<Tag::value, Dst>(d, hn::LoadU(d, src + i), bits);
+      hn::StoreU(saturateTo<Dst>(d, scaled), d, dst + i);
+    }
     return vekStsOk;
   }
 };

@@ -60,7 +60,7 @@ std::vector<Wide> intermediates() {
   std::vector<Wide> all;
   const int64_t reach = sizeof(Wide) == 2 ? 32768 : 1 << 17;
   for (int64_t r = -reach; r < reach; ++r) all.push_back(static_cast<Wide>(r));
-  if (sizeof(Wide) == 2) return all;
+  if (sizeof(Wide) == 2) return all;  // 65536 values
   std::mt19937_64 random(7);
   using Unsigned = std::make_unsigned_t<Wide>;
   for (int bit = 0; bit < kWidth<Wide>; ++bit) {
@@ -73,6 +73,7 @@ std::vector<Wide> intermediates() {
       all.push_back(static_cast<Wide>(static_cast<Wide>(random()) >> bit));
     }
   }
+  while (all.size() % 64 != 0) all.push_back(0);
   return all;
 }
 

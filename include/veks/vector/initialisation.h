@@ -15,7 +15,7 @@ extern "C" {
 
 /**
  * @name Set
- * `pDst[n] = val` for n = 0 .. len - 1.
+ * `pDst[n] = val` for 0 <= n < len.
  *
  * @param val the value of every element
  * @param pDst the destination, `len` elements
@@ -38,7 +38,7 @@ VEKS_API VekStatus veksSet_64fc(Vek64fc val, Vek64fc* pDst, int len);
 
 /**
  * @name Zero
- * `pDst[n] = 0` (all bits zero) for n = 0 .. len - 1.
+ * `pDst[n] = 0` (all bits zero) for 0 <= n < len.
  *
  * @param pDst the destination, `len` elements
  * @param len the number of elements
@@ -60,7 +60,7 @@ VEKS_API VekStatus veksZero_64fc(Vek64fc* pDst, int len);
 
 /**
  * @name Copy
- * `pDst[n] = pSrc[n]` for n = 0 .. len - 1. The vectors must not overlap; Move allows it.
+ * `pDst[n] = pSrc[n]` for 0 <= n < len. The vectors must not overlap; Move allows it.
  *
  * @param pSrc the source, `len` elements
  * @param pDst the destination, `len` elements
@@ -83,7 +83,7 @@ VEKS_API VekStatus veksCopy_64fc(const Vek64fc* pSrc, Vek64fc* pDst, int len);
 
 /**
  * @name Move
- * `pDst[n] = pSrc[n]` for n = 0 .. len - 1, with the values that the source had before the call:
+ * `pDst[n] = pSrc[n]` for 0 <= n < len, with the values that the source had before the call:
  * the vectors may overlap in any way.
  *
  * @param pSrc the source, `len` elements
@@ -107,7 +107,7 @@ VEKS_API VekStatus veksMove_64fc(const Vek64fc* pSrc, Vek64fc* pDst, int len);
 
 /**
  * @name Flip
- * Reverses the order: `pDst[n] = pSrc[len - 1 - n]` for n = 0 .. len - 1. `pDst` may be `pSrc` (the
+ * Reverses the order: `pDst[n] = pSrc[len - 1 - n]` for 0 <= n < len. `pDst` may be `pSrc` (the
  * `_I` forms are that case); other overlaps are not allowed.
  *
  * @param pSrc the source, `len` elements
