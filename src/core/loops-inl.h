@@ -79,9 +79,10 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
 }
 
 // Whether n elements from dst on are better written past the caches. Not so in place: what is read
-// there is in the caches already.
+// there is in the caches already. EMU128 has no such stores.
 template <class T>
 HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
+  if (HWY_TARGET == HWY_EMU128) return false;
   const bool aligned = reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0;
   return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && !inPlace && aligned;
 }

@@ -68,7 +68,7 @@ constexpr Dst shiftLeftSaturated(Wide r, int bits) {
   constexpr Dst kMin = std::numeric_limits<Dst>::min();
   if (r > Wide{kMax} >> bits) return kMax;
   if (r < Wide{kMin} >> bits) return kMin;
-  return static_cast<Dst>(r * (Wide{1} << bits));
+  return static_cast<Dst>(static_cast<std::make_unsigned_t<Wide>>(r) << bits);
 }
 
 // The whole rule for one element.

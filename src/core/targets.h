@@ -72,7 +72,7 @@ template <auto first, auto... rest>
 struct Kernel {
   using Pointer = decltype(first);
   static constexpr int kTargets = sizeof...(rest);
-  static constexpr Pointer kInstances[] = {first, rest...};
+  static constexpr Pointer kInstances[kTargets + 1] = {first, rest...};
 
   template <class... Args>
   VekStatus operator()(Args... args) const {

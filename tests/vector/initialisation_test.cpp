@@ -91,14 +91,13 @@ void checkMove(VekStatus (*move)(const T*, T*, int)) {
   checkCopy(move);
   constexpr size_t kReach = 130;
   onEveryTarget([&] {
-    for (size_t len : {1, 2, 3, 5, 8, 16, 17, 31, 32, 33, 64, 65, 100, 129, 131, 400, 1000}) {
-      const std::vector<T> before = randomBits<T>(len + 2 * kReach);
+    for (int len : {1, 2, 3, 5, 8, 16, 17, 31, 32, 33, 64, 65, 100, 129, 131, 400, 1000}) {
+      const std::vector<T> before = randomBits<T>(static_cast<size_t>(len) + 2 * kReach);
       for (size_t to = 0; to <= 2 * kReach; ++to) {
         std::vector<T> expected = before;
         std::copy_n(before.begin() + kReach, len, expected.begin() + static_cast<ptrdiff_t>(to));
         std::vector<T> actual = before;
-        ASSERT_EQ(move(actual.data() + kReach, actual.data() + to, static_cast<int>(len)),
-                  vekStsOk);
+        ASSERT_EQ(move(actual.data() + kReach, actual.data() + to, len), vekStsOk);
         ASSERT_TRUE(sameBits(expected, actual)) << len << " elements moved to " << to;
       }
     }
