@@ -1,0 +1,23 @@
+"""What the headers do not tell the contract sweep. An entry that matches nothing is an error."""
+
+from rules import INT_MIN, NotSwept, Span, Values
+
+EXCEPTIONS = (
+    NotSwept(
+        r"vekGet\w+|vekSet\w+|veksGetLibVersion|veksMalloc_\w+|veksFree",
+        reason="services: no vector result; see tests/core/services_test.cpp",
+    ),
+    Span(
+        r"veksSwapBytes_24u(_I)?",
+        parameters=r"p\w+",
+        per_len=3,
+        reason="a packed sample is three elements of Vek8u",
+    ),
+    Values(
+        r"veks[LR]ShiftC_\w+",
+        parameters=r"val",
+        valid=range(41),
+        bad={"vekErrShift": (-1, INT_MIN)},
+        reason="bit counts; those beyond the element width are valid",
+    ),
+)

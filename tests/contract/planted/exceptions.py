@@ -1,0 +1,27 @@
+"""What planted.h does not tell the contract sweep."""
+
+from rules import INT_MIN, NoPartner, Span, TargetsDiffer, Values
+
+EXCEPTIONS = (
+    Span(
+        r"veksPlanted(Two)?Sums?_8u",
+        parameters=r"pSum",
+        fixed=1,
+        reason="a single result",
+    ),
+    Values(
+        r"veksPlanted\w*Shift\w*_16u",
+        parameters=r"val",
+        valid=range(16),
+        bad={"vekErrShift": (-1, INT_MIN)},
+        reason="bit counts",
+    ),
+    NoPartner(
+        r"veksPlanted(Negate_32s|WriteBefore_8u)_I",
+        reason="exist in place only",
+    ),
+    TargetsDiffer(
+        r"veksPlantedLastBits_32f",
+        reason="shows that the difference of PlantedTarget can be allowed",
+    ),
+)
