@@ -22,16 +22,17 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Lanes before the first boundary of `lanes` lanes at or after p, less than `lanes`. A pointer that
-// is aligned to less than its element gets some valid answer.
-template <class T>
+// Lanes before the first boundary of `lanes` lanes at or after p, less than `lanes`, whole groups.
+// A pointer that is aligned to less than a group gets some valid answer.
+template <size_t kGroup, class T>
 HWY_INLINE size_t lanesToBoundary(const T* p, size_t lanes) {
-  return (0 - reinterpret_cast<uintptr_t>(p) / sizeof(T)) % lanes;
+  const uintptr_t group = reinterpret_cast<uintptr_t>(p) / (kGroup * sizeof(T));
+  return kGroup * ((0 - group) % (lanes / kGroup));
 }
 
 // n elements, at most two vectors of tag d: two vectors that overlap, or the same for halves. Both
 // are computed before the first store.
-template <class D, class T, class Body>
+template <size_t kGroup, class D, class T, class Body>
 HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
   constexpr size_t kLanes = MaxLanes(D());
   if (n >= kLanes) {
@@ -39,8 +40,8 @@ HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
     const auto last = body(d, n - kLanes);
     hn::StoreU(first, d, dst);
     hn::StoreU(last, d, dst + n - kLanes);
-  } else if constexpr (kLanes > 1) {
-    produceShort(hn::Half<D>(), body, dst, n);
+  } else if constexpr (kLanes > kGroup) {
+    produceShort<kGroup>(hn::Half<D>(), body, dst, n);
   }
 }
 
@@ -59,13 +60,13 @@ HWY_INLINE void store(D d, V v, T* dst) {
 // dst, at the same positions or at later ones: the two vectors that overlap others are computed
 // first and stored last. Each vector is stored before the next one is loaded, which is faster than
 // in groups.
-template <Stores stores, class T, class Body>
+template <Stores stores, size_t kGroup, class T, class Body>
 HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   const hn::ScalableTag<T> d;
   constexpr size_t kLanes = MaxLanes(d);
   const auto first = body(d, 0);
   const auto last = body(d, n - kLanes);
-  size_t i = lanesToBoundary(dst, kLanes);
+  size_t i = lanesToBoundary<kGroup>(dst, kLanes);
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
     store<stores>(d, body(d, i), dst + i);
     store<stores>(d, body(d, i + kLanes), dst + i + kLanes);
@@ -80,23 +81,27 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
 
 // Whether n elements from dst on are better written past the caches. Not so in place: what is read
 // there is in the caches already. EMU128 has no such stores.
-template <class T>
+template <size_t kGroup, class T>
 HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
   if (HWY_TARGET == HWY_EMU128) return false;
-  const bool aligned = reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0;
+  const bool aligned = reinterpret_cast<uintptr_t>(dst) % (kGroup * sizeof(T)) == 0;
   return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && !inPlace && aligned;
 }
 
-template <class T, class Body>
+// The skeleton of everything that computes a vector from vectors at the same positions. Elements of
+// several lanes are not split: they are groups, and n and all positions are multiples of kGroup.
+template <size_t kGroup = 1, class T, class Body>
 HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
   const hn::ScalableTag<T> d;
   // The hints lay one and two vectors out without a taken branch: there it counts.
   if (HWY_LIKELY(n <= 2 * MaxLanes(d))) {
-    if (HWY_LIKELY(n >= MaxLanes(d))) return produceShort(d, body, dst, n);
-    return produceShort(hn::Half<decltype(d)>(), body, dst, n);
+    if (HWY_LIKELY(n >= MaxLanes(d))) return produceShort<kGroup>(d, body, dst, n);
+    return produceShort<kGroup>(hn::Half<decltype(d)>(), body, dst, n);
   }
-  if (wantsStreaming(dst, n, inPlace)) return produceLoop<Stores::kStreaming>(body, dst, n);
-  produceLoop<Stores::kCached>(body, dst, n);
+  if (wantsStreaming<kGroup>(dst, n, inPlace)) {
+    return produceLoop<Stores::kStreaming, kGroup>(body, dst, n);
+  }
+  produceLoop<Stores::kCached, kGroup>(body, dst, n);
 }
 
 // What an operation tag does to vectors: Operation<Op>()(d, v ...) gives the vector of results. The

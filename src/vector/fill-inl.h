@@ -26,14 +26,8 @@ struct TwoLanePattern {
   uint64_t low;
   uint64_t high;
   template <class D>
-  HWY_INLINE hn::VFromD<D> operator()(D d, size_t i) const {
-    const auto lows = hn::Set(d, low);
-    const auto highs = hn::Set(d, high);
-    if constexpr (MaxLanes(D()) == 1) {
-      return i % 2 == 0 ? lows : highs;
-    } else {
-      return i % 2 == 0 ? hn::InterleaveLower(d, lows, highs) : hn::InterleaveLower(d, highs, lows);
-    }
+  HWY_INLINE auto operator()(D d, size_t /*i*/) const {
+    return hn::InterleaveLower(d, hn::Set(d, low), hn::Set(d, high));
   }
 };
 
@@ -43,7 +37,7 @@ HWY_INLINE void fill(T val, T* dst, size_t n) {
   if constexpr (sizeof(T) == 16) {
     uint64_t bits[2];
     hwy::CopyBytes<16>(&val, bits);
-    produce(TwoLanePattern{bits[0], bits[1]}, reinterpret_cast<uint64_t*>(dst), 2 * n, false);
+    produce<2>(TwoLanePattern{bits[0], bits[1]}, reinterpret_cast<uint64_t*>(dst), 2 * n, false);
   } else {
     using Lane = hwy::UnsignedFromSize<sizeof(T)>;
     Lane bits;

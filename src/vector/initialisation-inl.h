@@ -120,7 +120,7 @@ HWY_INLINE void flipMiddle(D d, T* srcDst, size_t i, size_t n) {
     const auto high = hn::LoadU(d, srcDst + n - i - kLanes);
     hn::StoreU(reversed<kGroup>(d, high), d, srcDst + i);
     hn::StoreU(reversed<kGroup>(d, low), d, srcDst + n - i - kLanes);
-  } else if constexpr (kLanes > 1) {
+  } else if constexpr (kLanes > kGroup) {
     flipMiddle<kGroup>(hn::Half<D>(), srcDst, i, n);
   }
 }
@@ -159,7 +159,7 @@ VekStatus Flip(const T* src, T* dst, size_t len) {
   constexpr size_t kGroup = FlipTypes<T>::kGroup;
   if (HWY_UNLIKELY(src == dst)) return FlipInPlace<T>(dst, len);
   const Lane* const end = reinterpret_cast<const Lane*>(src + len);
-  produce(FromTheEnd<kGroup, Lane>{end}, reinterpret_cast<Lane*>(dst), kGroup * len, false);
+  produce<kGroup>(FromTheEnd<kGroup, Lane>{end}, reinterpret_cast<Lane*>(dst), kGroup * len, false);
   return vekStsOk;
 }
 

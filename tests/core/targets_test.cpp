@@ -39,6 +39,7 @@ TEST(Targets, SixteenThreadsCallAtOnce) {
   const std::vector<Vek32u> src = randomBits<Vek32u>(1000);
   std::vector<std::vector<Vek32u>> results(16, std::vector<Vek32u>(src.size()));
   std::vector<std::thread> threads;
+  threads.reserve(results.size());
   for (std::vector<Vek32u>& dst : results) {
     threads.emplace_back([&src, &dst] {
       veksXorC_32u(src.data(), 0x55AA00FFU, dst.data(), static_cast<int>(src.size()));
