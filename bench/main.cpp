@@ -1,0 +1,66 @@
+// The benchmarks of veks. Besides the options of Google Benchmark: --rounds=N for every benchmark,
+// in place of 31 (11 for the largest vectors).
+#include <sched.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "compare.h"
+#include "veks.h"
+
+namespace {
+
+// Pins the process to the last of the cores that it may use: the first serves most interrupts.
+// Returns the core, -1 if that failed.
+int pinToOneCore() {
+  cpu_set_t allowed;
+  if (sched_getaffinity(0, sizeof(allowed), &allowed) != 0) return -1;
+  int core = CPU_SETSIZE - 1;
+  while (core >= 0 && !CPU_ISSET(core, &allowed)) --core;
+  if (core < 0) return -1;
+  cpu_set_t one;
+  CPU_ZERO(&one);
+  CPU_SET(core, &one);
+  return sched_setaffinity(0, sizeof(one), &one) == 0 ? core : -1;
+}
+
+// Takes --rounds=N out of the arguments. Returns whether all was well.
+bool readRounds(int* argc, char** argv) {
+  constexpr std::string_view kFlag = "--rounds=";
+  int kept = 1;
+  for (int i = 1; i < *argc; ++i) {
+    if (std::string_view(argv[i]).substr(0, kFlag.size()) != kFlag) {
+      argv[kept++] = argv[i];
+      continue;
+    }
+    char* end = nullptr;
+    const long rounds = std::strtol(argv[i] + kFlag.size(), &end, 10);
+    if (*end != '\0' || rounds < 1 || rounds > 1'000'000) return false;
+    veks::bench::setRounds(static_cast<int>(rounds));
+  }
+  argv[kept] = nullptr;
+  *argc = kept;
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (!readRounds(&argc, argv)) {
+    std::cerr << "--rounds needs a number from 1 to 1000000\n";
+    return EXIT_FAILURE;
+  }
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+  const int core = pinToOneCore();
+  if (core < 0) {
+    std::cerr << "cannot pin the process to one core\n";
+    return EXIT_FAILURE;
+  }
+  benchmark::AddCustomContext("veks_target", vekGetTargetName());
+  benchmark::AddCustomContext("core", std::to_string(core));
+  veks::bench::addAllSuites();
+  return benchmark::RunSpecifiedBenchmarks() > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}

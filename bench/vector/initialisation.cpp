@@ -1,0 +1,120 @@
+#include <cstring>
+
+#include "peers/plain_loops.h"
+#include "vectors.h"
+
+namespace veks::bench {
+namespace {
+
+Peer memcpyPeer() {
+  return [](const Vectors& v) {
+    return contestant("memcpy", std::memcpy, v.dst<void>(), v.src1<void>(), v.bytes());
+  };
+}
+
+Peer memmovePeer() {
+  return [](const Vectors& v) {
+    return contestant("memmove", std::memmove, v.dst<void>(), v.src1<void>(), v.bytes());
+  };
+}
+
+Peer memsetPeer(int value) {
+  return [value](const Vectors& v) {
+    return contestant("memset", std::memset, v.dst<void>(), value, v.bytes());
+  };
+}
+
+template <class T>
+void copy(const char* name, VekStatus (*function)(const T*, T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {memcpyPeer(), memmovePeer(), peer("std::copy", plain::Standard<T>::copy)});
+}
+
+template <class T>
+void move(const char* name, VekStatus (*function)(const T*, T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {memmovePeer(), peer("std::copy", plain::Standard<T>::copy)});
+  compareOverlapping(name, function, kReadWrite, {memmovePeer()});
+}
+
+template <class T>
+void set(const char* name, VekStatus (*function)(T, T*, int)) {
+  std::vector<Peer> peers = {peer("std::fill", plain::Standard<T>::fill)};
+  if (sizeof(T) == 1) peers.push_back(memsetPeer(kConstantByte));
+  compareVectors(name, function, kWrite, peers);
+}
+
+template <class T>
+void zero(const char* name, VekStatus (*function)(T*, int)) {
+  compareVectors(name, function, kWrite,
+                 {memsetPeer(0), peer("std::fill", plain::Standard<T>::fillZero)});
+}
+
+template <class T>
+void flip(const char* name, VekStatus (*function)(const T*, T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {peer("loop", plain::Reverse<T>::separate),
+                  peer("std::reverse_copy", plain::Reverse<T>::stdReverseCopy)});
+}
+
+template <class T>
+void flip(const char* name, VekStatus (*function)(T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {peer("loop", plain::Reverse<T>::inPlace),
+                  peer("std::reverse", plain::Reverse<T>::stdReverse)});
+}
+
+template <class T>
+void swapBytes(const char* name, VekStatus (*function)(const T*, T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {peer("loop", plain::Unary<plain::SwapBytes, T>::separate)});
+}
+
+template <class T>
+void swapBytes(const char* name, VekStatus (*function)(T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {peer("loop", plain::Unary<plain::SwapBytes, T>::inPlace)});
+}
+
+void addCases() {
+  copy(VEKS_BENCH_NAMED(veksCopy_8u));
+  copy(VEKS_BENCH_NAMED(veksCopy_32f));
+  copy(VEKS_BENCH_NAMED(veksCopy_64fc));
+  move(VEKS_BENCH_NAMED(veksMove_8u));
+  move(VEKS_BENCH_NAMED(veksMove_32f));
+  move(VEKS_BENCH_NAMED(veksMove_64fc));
+
+  set(VEKS_BENCH_NAMED(veksSet_8u));
+  set(VEKS_BENCH_NAMED(veksSet_16s));
+  set(VEKS_BENCH_NAMED(veksSet_32f));
+  set(VEKS_BENCH_NAMED(veksSet_64f));
+  set(VEKS_BENCH_NAMED(veksSet_32fc));
+  set(VEKS_BENCH_NAMED(veksSet_64fc));
+  zero(VEKS_BENCH_NAMED(veksZero_8u));
+  zero(VEKS_BENCH_NAMED(veksZero_32f));
+
+  flip(VEKS_BENCH_NAMED(veksFlip_8u));
+  flip(VEKS_BENCH_NAMED(veksFlip_16u));
+  flip(VEKS_BENCH_NAMED(veksFlip_32f));
+  flip(VEKS_BENCH_NAMED(veksFlip_64f));
+  flip(VEKS_BENCH_NAMED(veksFlip_64fc));
+  flip(VEKS_BENCH_NAMED(veksFlip_8u_I));
+  flip(VEKS_BENCH_NAMED(veksFlip_16u_I));
+  flip(VEKS_BENCH_NAMED(veksFlip_32f_I));
+  flip(VEKS_BENCH_NAMED(veksFlip_64f_I));
+  flip(VEKS_BENCH_NAMED(veksFlip_64fc_I));
+
+  swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_16u));
+  swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_16u_I));
+  compareVectors(VEKS_BENCH_NAMED(veksSwapBytes_24u), kReadWrite,
+                 {peer("loop", plain::SwapBytes24::separate)}, 3);
+  compareVectors(VEKS_BENCH_NAMED(veksSwapBytes_24u_I), kReadWrite,
+                 {peer("loop", plain::SwapBytes24::inPlace)}, 3);
+  swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_32u));
+  swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_32u_I));
+}
+
+const Suite suite(addCases);
+
+}  // namespace
+}  // namespace veks::bench

@@ -1,0 +1,107 @@
+#include "peers/plain_loops.h"
+#include "vectors.h"
+
+namespace veks::bench {
+namespace {
+
+template <class Op, class T>
+void unary(const char* name, VekStatus (*function)(const T*, T*, int)) {
+  compareVectors(name, function, kReadWrite, {peer("loop", plain::Unary<Op, T>::separate)});
+}
+
+template <class Op, class T>
+void unary(const char* name, VekStatus (*function)(T*, int)) {
+  compareVectors(name, function, kReadWrite, {peer("loop", plain::Unary<Op, T>::inPlace)});
+}
+
+template <class Op, class T>
+void binary(const char* name, VekStatus (*function)(const T*, const T*, T*, int)) {
+  compareVectors(name, function, kTwoReadsWrite, {peer("loop", plain::Binary<Op, T>::separate)});
+}
+
+template <class Op, class T>
+void binary(const char* name, VekStatus (*function)(const T*, T*, int)) {
+  compareVectors(name, function, kTwoReadsWrite, {peer("loop", plain::Binary<Op, T>::inPlace)});
+}
+
+template <class Op, class T, class C>
+void withConstant(const char* name, VekStatus (*function)(const T*, C, T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {peer("loop", plain::WithConstant<Op, T, C>::separate)});
+}
+
+template <class Op, class C, class T>
+void withConstant(const char* name, VekStatus (*function)(C, T*, int)) {
+  compareVectors(name, function, kReadWrite,
+                 {peer("loop", plain::WithConstant<Op, T, C>::inPlace)});
+}
+
+void addCases() {
+  using namespace plain;
+  binary<And>(VEKS_BENCH_NAMED(veksAnd_8u));
+  binary<And>(VEKS_BENCH_NAMED(veksAnd_8u_I));
+  binary<And>(VEKS_BENCH_NAMED(veksAnd_16u));
+  binary<And>(VEKS_BENCH_NAMED(veksAnd_16u_I));
+  binary<And>(VEKS_BENCH_NAMED(veksAnd_32u));
+  binary<And>(VEKS_BENCH_NAMED(veksAnd_32u_I));
+  binary<Or>(VEKS_BENCH_NAMED(veksOr_8u));
+  binary<Or>(VEKS_BENCH_NAMED(veksOr_8u_I));
+  binary<Or>(VEKS_BENCH_NAMED(veksOr_16u));
+  binary<Or>(VEKS_BENCH_NAMED(veksOr_16u_I));
+  binary<Or>(VEKS_BENCH_NAMED(veksOr_32u));
+  binary<Or>(VEKS_BENCH_NAMED(veksOr_32u_I));
+  binary<Xor>(VEKS_BENCH_NAMED(veksXor_8u));
+  binary<Xor>(VEKS_BENCH_NAMED(veksXor_8u_I));
+  binary<Xor>(VEKS_BENCH_NAMED(veksXor_16u));
+  binary<Xor>(VEKS_BENCH_NAMED(veksXor_16u_I));
+  binary<Xor>(VEKS_BENCH_NAMED(veksXor_32u));
+  binary<Xor>(VEKS_BENCH_NAMED(veksXor_32u_I));
+
+  withConstant<And>(VEKS_BENCH_NAMED(veksAndC_8u));
+  withConstant<And>(VEKS_BENCH_NAMED(veksAndC_8u_I));
+  withConstant<And>(VEKS_BENCH_NAMED(veksAndC_16u));
+  withConstant<And>(VEKS_BENCH_NAMED(veksAndC_16u_I));
+  withConstant<And>(VEKS_BENCH_NAMED(veksAndC_32u));
+  withConstant<And>(VEKS_BENCH_NAMED(veksAndC_32u_I));
+  withConstant<Or>(VEKS_BENCH_NAMED(veksOrC_8u));
+  withConstant<Or>(VEKS_BENCH_NAMED(veksOrC_8u_I));
+  withConstant<Or>(VEKS_BENCH_NAMED(veksOrC_16u));
+  withConstant<Or>(VEKS_BENCH_NAMED(veksOrC_16u_I));
+  withConstant<Or>(VEKS_BENCH_NAMED(veksOrC_32u));
+  withConstant<Or>(VEKS_BENCH_NAMED(veksOrC_32u_I));
+  withConstant<Xor>(VEKS_BENCH_NAMED(veksXorC_8u));
+  withConstant<Xor>(VEKS_BENCH_NAMED(veksXorC_8u_I));
+  withConstant<Xor>(VEKS_BENCH_NAMED(veksXorC_16u));
+  withConstant<Xor>(VEKS_BENCH_NAMED(veksXorC_16u_I));
+  withConstant<Xor>(VEKS_BENCH_NAMED(veksXorC_32u));
+  withConstant<Xor>(VEKS_BENCH_NAMED(veksXorC_32u_I));
+
+  unary<Not>(VEKS_BENCH_NAMED(veksNot_8u));
+  unary<Not>(VEKS_BENCH_NAMED(veksNot_8u_I));
+  unary<Not>(VEKS_BENCH_NAMED(veksNot_16u));
+  unary<Not>(VEKS_BENCH_NAMED(veksNot_16u_I));
+  unary<Not>(VEKS_BENCH_NAMED(veksNot_32u));
+  unary<Not>(VEKS_BENCH_NAMED(veksNot_32u_I));
+
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_8u));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_8u_I));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16u));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16u_I));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16s));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16s_I));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_32s));
+  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_32s_I));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_8u));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_8u_I));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16u));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16u_I));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16s));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16s_I));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_32s));
+  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_32s_I));
+}
+
+const Suite suite(addCases);
+
+}  // namespace
+}  // namespace veks::bench
