@@ -1,0 +1,26 @@
+// The arguments IN and OUT, which most commands have.
+#ifndef VEKS_WAV_COMMANDS_FILES_H
+#define VEKS_WAV_COMMANDS_FILES_H
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "sound/output_format.h"
+
+namespace veks_wav {
+
+struct Files {
+  std::string in;
+  std::string out;
+};
+
+// Adds IN and OUT to a command, and to its help what applies to them after the notes of its own.
+inline void addFiles(CLI::App* command, Files& files, const std::string& notes = "") {
+  command->add_option("IN", files.in, "The sound file to read")->required();
+  command->add_option("OUT", files.out, "The sound file to write")->required();
+  command->footer(notes + kOutputRules);
+}
+
+}  // namespace veks_wav
+
+#endif
