@@ -116,10 +116,25 @@ template <size_t kGroup, class D, class T>
 HWY_INLINE void flipMiddle(D d, T* srcDst, size_t i, size_t n) {
   constexpr size_t kLanes = MaxLanes(D());
   if (HWY_LIKELY(n - 2 * i >= kLanes)) {
-    const auto low = hn::LoadU(d, srcDst + i);
-    const auto high = hn::LoadU(d, srcDst + n - i - kLanes);
-    hn::StoreU(reversed<kGroup>(d, high), d, srcDst + i);
-    hn::StoreU(reversed<kGroup>(d, low), d, srcDst + n - i - kLanes);
+    T* const low = srcDst + i;
+    T* const high = srcDst + n - i - kLanes;
+    if constexpr (kLanes == 2 * kGroup) {
+      // Two elements of a vector are swapped on the way, as halves.
+      const hn::Half<D> half;
+      const auto low0 = hn::LoadU(half, low);
+      const auto low1 = hn::LoadU(half, low + kGroup);
+      const auto high0 = hn::LoadU(half, high);
+      const auto high1 = hn::LoadU(half, high + kGroup);
+      hn::StoreU(high1, half, low);
+      hn::StoreU(high0, half, low + kGroup);
+      hn::StoreU(low1, half, high);
+      hn::StoreU(low0, half, high + kGroup);
+    } else {
+      const auto lows = hn::LoadU(d, low);
+      const auto highs = hn::LoadU(d, high);
+      hn::StoreU(reversed<kGroup>(d, highs), d, low);
+      hn::StoreU(reversed<kGroup>(d, lows), d, high);
+    }
   } else if constexpr (kLanes > kGroup) {
     flipMiddle<kGroup>(hn::Half<D>(), srcDst, i, n);
   }
