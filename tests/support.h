@@ -14,8 +14,8 @@
 
 namespace veks::test {
 
-// Runs the body on every SIMD target of this machine, with destinations written through the caches and
-// past them, and leaves the library as it was loaded.
+// Runs the body on every SIMD target of this machine, with destinations written through the caches
+// and past them, and leaves the library as it was loaded.
 template <class Body>
 void onEveryTarget(const Body& body) {
   const int best = targetCount() - 1;
