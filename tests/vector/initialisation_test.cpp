@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "support.h"
+#include "vector/check_maps.h"
 #include "veks/vector/initialisation.h"
 
 namespace veks::test {
@@ -116,26 +117,6 @@ TEST(Move, CopiesOverlappingVectors) {
   checkMove(veksMove_64sc);
   checkMove(veksMove_32fc);
   checkMove(veksMove_64fc);
-}
-
-// out(pSrc, pDst, len) and in(pSrcDst, len) against a reference that turns the bytes of a vector
-// into those of the result.
-template <class T, class Reference>
-void checkMap(VekStatus (*out)(const T*, T*, int), VekStatus (*in)(T*, int),
-              const Reference& reference, size_t valuesPerElement = 1) {
-  onEveryTarget([&] {
-    for (int len : testLengths()) {
-      const std::vector<T> src = randomBits<T>(static_cast<size_t>(len) * valuesPerElement);
-      std::vector<T> expected = src;
-      reference(expected);
-      std::vector<T> dst(src.size());
-      ASSERT_EQ(out(src.data(), dst.data(), len), vekStsOk);
-      ASSERT_TRUE(sameBits(expected, dst));
-      std::vector<T> srcDst = src;
-      ASSERT_EQ(in(srcDst.data(), len), vekStsOk);
-      ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
-    }
-  });
 }
 
 TEST(Flip, ReversesTheElements) {

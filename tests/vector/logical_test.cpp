@@ -2,62 +2,11 @@
 #include <limits>
 
 #include "support.h"
+#include "vector/check_maps.h"
 #include "veks/vector/logical.h"
 
 namespace veks::test {
 namespace {
-
-template <class T, class Reference>
-void checkTwo(VekStatus (*out)(const T*, const T*, T*, int), VekStatus (*in)(const T*, T*, int),
-              const Reference& reference) {
-  onEveryTarget([&] {
-    for (int len : testLengths()) {
-      const std::vector<T> src1 = randomBits<T>(static_cast<size_t>(len), 1);
-      const std::vector<T> src2 = randomBits<T>(static_cast<size_t>(len), 2);
-      std::vector<T> expected(src1.size());
-      for (size_t i = 0; i < src1.size(); ++i) {
-        expected[i] = static_cast<T>(reference(src1[i], src2[i]));
-      }
-      std::vector<T> dst(src1.size());
-      ASSERT_EQ(out(src1.data(), src2.data(), dst.data(), len), vekStsOk);
-      ASSERT_TRUE(sameBits(expected, dst));
-      std::vector<T> srcDst = src2;
-      ASSERT_EQ(in(src1.data(), srcDst.data(), len), vekStsOk);
-      ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
-    }
-  });
-}
-
-// Parameter is the type of the constant or of the shift count.
-template <class T, class Parameter, class Reference>
-void checkParameter(VekStatus (*out)(const T*, Parameter, T*, int),
-                    VekStatus (*in)(Parameter, T*, int), const std::vector<Parameter>& parameters,
-                    const std::vector<int>& lengths, const Reference& reference) {
-  onEveryTarget([&] {
-    for (Parameter parameter : parameters) {
-      SCOPED_TRACE(testing::Message() << "parameter " << +parameter);
-      for (int len : lengths) {
-        const std::vector<T> src = randomBits<T>(static_cast<size_t>(len));
-        std::vector<T> expected(src.size());
-        for (size_t i = 0; i < src.size(); ++i) {
-          expected[i] = static_cast<T>(reference(src[i], parameter));
-        }
-        std::vector<T> dst(src.size());
-        ASSERT_EQ(out(src.data(), parameter, dst.data(), len), vekStsOk);
-        ASSERT_TRUE(sameBits(expected, dst));
-        std::vector<T> srcDst = src;
-        ASSERT_EQ(in(parameter, srcDst.data(), len), vekStsOk);
-        ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
-      }
-    }
-  });
-}
-
-template <class T, class Reference>
-void checkConstant(VekStatus (*out)(const T*, T, T*, int), VekStatus (*in)(T, T*, int),
-                   const Reference& reference) {
-  checkParameter<T, T>(out, in, randomBits<T>(3, 3), testLengths(), reference);
-}
 
 TEST(Logical, And) {
   const auto reference = [](auto a, auto b) { return a & b; };
@@ -89,27 +38,13 @@ TEST(Logical, Xor) {
   checkConstant(veksXorC_32u, veksXorC_32u_I, reference);
 }
 
-template <class T>
-void checkNot(VekStatus (*out)(const T*, T*, int), VekStatus (*in)(T*, int)) {
-  onEveryTarget([&] {
-    for (int len : testLengths()) {
-      const std::vector<T> src = randomBits<T>(static_cast<size_t>(len));
-      std::vector<T> expected(src.size());
-      for (size_t i = 0; i < src.size(); ++i) expected[i] = static_cast<T>(~src[i]);
-      std::vector<T> dst(src.size());
-      ASSERT_EQ(out(src.data(), dst.data(), len), vekStsOk);
-      ASSERT_TRUE(sameBits(expected, dst));
-      std::vector<T> srcDst = src;
-      ASSERT_EQ(in(srcDst.data(), len), vekStsOk);
-      ASSERT_TRUE(sameBits(expected, srcDst)) << "in place";
-    }
-  });
-}
-
 TEST(Logical, Not) {
-  checkNot(veksNot_8u, veksNot_8u_I);
-  checkNot(veksNot_16u, veksNot_16u_I);
-  checkNot(veksNot_32u, veksNot_32u_I);
+  const auto complement = [](auto& elements) {
+    for (auto& x : elements) x = static_cast<std::decay_t<decltype(x)>>(~x);
+  };
+  checkMap(veksNot_8u, veksNot_8u_I, complement);
+  checkMap(veksNot_16u, veksNot_16u_I, complement);
+  checkMap(veksNot_32u, veksNot_32u_I, complement);
 }
 
 // Shifted bit by bit, so that any count has a meaning.
