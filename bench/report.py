@@ -73,6 +73,21 @@ def print_comparisons(entries):
     )
 
 
+def print_summary(entries):
+    """Prints one Markdown row per function and alignment: GB/s and ratio for each size."""
+    sizes = list(dict.fromkeys(parts_of(entry)[1] for entry in entries))
+    cells = {}
+    for entry in entries:
+        function, size, alignment = parts_of(entry)
+        text = f"{entry['bytes_per_second'] / 1e9:.0f} ({entry['ratio']:.2f})"
+        cells.setdefault((function, alignment), {})[size] = text
+    print("| function | vectors |" + "".join(f" {size} |" for size in sizes))
+    print("|---|---|" + "---|" * len(sizes))
+    for (function, alignment), row in cells.items():
+        texts = "".join(f" {row.get(size, '')} |" for size in sizes)
+        print(f"| `{function}` | {alignment} |{texts}")
+
+
 def print_overheads(entries):
     if not entries:
         return
@@ -88,7 +103,11 @@ def main():
         description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter
     )
     parser.add_argument("file", help="from --benchmark_out with --benchmark_out_format=json")
-    path = parser.parse_args().file
+    parser.add_argument(
+        "--summary", action="store_true", help="a Markdown table of GB/s (ratio) instead"
+    )
+    options = parser.parse_args()
+    path = options.file
     try:
         with open(path, encoding="utf-8") as file:
             data = json.load(file)
@@ -101,7 +120,8 @@ def main():
 
     entries = [e for e in data["benchmarks"] if e["run_type"] == "iteration"]
     print_overheads([e for e in entries if "overhead_ns" in e])
-    print_comparisons([e for e in entries if "ratio" in e])
+    show = print_summary if options.summary else print_comparisons
+    show([e for e in entries if "ratio" in e])
 
     failed = [e for e in entries if e.get("error_occurred")]
     for entry in failed:

@@ -1,8 +1,8 @@
 // SIMD targets and the choice among them.
 //
 // A kernel is a template in namespace veks::HWY_NAMESPACE of a *-inl.h file, which is compiled once
-// for each target of the build. VEKS_KERNEL(Name<Args>) is a pointer to its instance for the target
-// of the running processor.
+// for each target of the build. VEKS_KERNEL(Name<Args>) stands for all its instances; a call goes
+// to that of the active target.
 #ifndef VEKS_CORE_TARGETS_H
 #define VEKS_CORE_TARGETS_H
 
@@ -43,7 +43,7 @@
 #define VEKS_ON_AVX3(...)
 #endif
 
-// The kernel of the active target, callable as VEKS_KERNEL(MapTwo<And, Vek8u>)(src1, src2, dst, n).
+// VEKS_KERNEL(MapTwo<And, Vek8u>)(src1, src2, dst, n) calls the kernel of the active target.
 // nullptr only takes the place after the last comma.
 #define VEKS_KERNEL(...)                                                                         \
   ::veks::Kernel<VEKS_ON_EMU128(__VA_ARGS__) VEKS_ON_SSE4(__VA_ARGS__) VEKS_ON_AVX2(__VA_ARGS__) \

@@ -46,8 +46,9 @@ HWY_INLINE void moveDown(const Bytes& body, uint8_t* dst, size_t n) {
 
 inline VekStatus Move(const uint8_t* src, uint8_t* dst, size_t n) {
   const Bytes body{src};
-  const size_t above = static_cast<size_t>(dst - src);  // huge for a destination below the source
-  const size_t below = static_cast<size_t>(src - dst);
+  // Modulo the address space: each is huge where the other is the distance.
+  const uintptr_t above = reinterpret_cast<uintptr_t>(dst) - reinterpret_cast<uintptr_t>(src);
+  const uintptr_t below = 0 - above;
   const hn::ScalableTag<uint8_t> d;
   if (HWY_LIKELY(n <= 2 * MaxLanes(d)) || HWY_LIKELY(above >= n)) {
     produce(body, dst, n, below < n);
