@@ -85,7 +85,11 @@ void checkArguments(const Descriptor& function, Workspace& workspace, Report& re
     for (const Replacement& pointer : pointers) {
       for (const Replacement& length : lengths) {
         for (const Replacement& scalar : scalars) {
-          checkReplacements(call, {&pointer, &length, &scalar}, report);
+          if (function.lengthFirst) {
+            checkReplacements(call, {&length, &pointer, &scalar}, report);
+          } else {
+            checkReplacements(call, {&pointer, &length, &scalar}, report);
+          }
         }
       }
     }

@@ -106,6 +106,7 @@ struct Descriptor {
   VekStatus (*call)(const Value*);
   const Descriptor* outOfPlace;  // what an in-place function equals
   bool sameOnTargets;            // results equal to the last bit
+  bool lengthFirst;              // checked before the pointers
   size_t count;
   Parameter parameters[kMaxParameters];
 };

@@ -1,6 +1,6 @@
 """What the headers do not tell the contract sweep. An entry that matches nothing is an error."""
 
-from rules import INT_MIN, NotSwept, Span, Values
+from rules import INT_MIN, LengthFirst, NoPartner, NotSwept, Span, Values
 
 EXCEPTIONS = (
     NotSwept(
@@ -12,6 +12,14 @@ EXCEPTIONS = (
         parameters=r"p\w+",
         per_len=3,
         reason="a packed sample is three elements of Vek8u",
+    ),
+    LengthFirst(
+        r"veks(Add|Sub)_(32|64)fc(_I)?",
+        reason="the real form on twice the length, after a check of the length",
+    ),
+    NoPartner(
+        r"veksAddProduct_\w+",
+        reason="adds to its destination; there is no other form",
     ),
     Values(
         r"veks[LR]ShiftC_\w+",

@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 from declarations import DeclarationError, parse_files
-from rules import NoPartner, NotSwept, Span, TargetsDiffer, Values
+from rules import LengthFirst, NoPartner, NotSwept, Span, TargetsDiffer, Values
 
 SAMPLE = r"Vek\d+[usf]c?"
 ROLES = (
@@ -118,6 +118,7 @@ def descriptor_text(swept, table, book):
         f"call<{swept.name}>",
         "nullptr" if partner is None else f"&kFunctions[{partner}]",
         "false" if book.find(TargetsDiffer, swept.function) else "true",
+        "true" if book.find(LengthFirst, swept.function) else "false",
         str(len(swept.roles)),
     ]
     parameters = [parameter_text(swept, position, book) for position in range(len(swept.roles))]

@@ -25,6 +25,7 @@ TEST(Planted, EveryFaultIsReportedAndNothingElse) {
       {"veksPlantedNullIgnored_64f", {Kind::kCrash, Kind::kStatus}},
       {"veksPlantedSizeStatus_32f", {Kind::kStatus}},
       {"veksPlantedSizeFirst_8u", {Kind::kStatus}},
+      {"veksPlantedPointerFirst_8u", {Kind::kStatus}},
       {"veksPlantedAnyShift_16u", {Kind::kStatus}},
       {"veksPlantedShiftFirst_16u", {Kind::kStatus}},
       {"veksPlantedFails_8u", {Kind::kStatus}},

@@ -29,6 +29,11 @@ class TargetsDiffer(Rule):
     """Results may differ between SIMD targets in the last bits."""
 
 
+@dataclass(frozen=True)
+class LengthFirst(Rule):
+    """The length is checked before the pointers."""
+
+
 @dataclass(frozen=True, kw_only=True)
 class ParameterRule(Rule):
     parameters: str

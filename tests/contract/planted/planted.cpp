@@ -168,8 +168,17 @@ VekStatus veksPlantedSizeStatus_32f(const Vek32f* pSrc, Vek32f* pDst, int len) {
   return status == vekErrSize && len != 0 ? vekErrBadArg : status;
 }
 
+// The length before the pointers: a fault, but where it is an exception.
 VekStatus veksPlantedSizeFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
   return len <= 0 ? vekErrSize : checkedCopy(pSrc, pDst, len);
+}
+
+VekStatus veksPlantedLengthFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
+  return veksPlantedSizeFirst_8u(pSrc, pDst, len);
+}
+
+VekStatus veksPlantedPointerFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
+  return checkedCopy(pSrc, pDst, len);
 }
 
 VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {

@@ -16,6 +16,7 @@ VEKS_API VekStatus veksPlantedSub_16s_I(const Vek16s* pSrc, Vek16s* pSrcDst, int
 VEKS_API VekStatus veksPlantedSet_64fc(Vek64fc val, Vek64fc* pDst, int len);
 VEKS_API VekStatus veksPlantedSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum);
 VEKS_API VekStatus veksPlantedNegate_32s_I(Vek32s* pSrcDst, int len);
+VEKS_API VekStatus veksPlantedLengthFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
 VEKS_API VekStatus veksPlantedLastBits_32f(const Vek32f* pSrc, Vek32f* pDst, int len);
 
 // With accesses outside of the vectors or to a source.
@@ -32,6 +33,7 @@ VEKS_API VekStatus veksPlantedWriteFirst_16s(const Vek16s* pSrc, Vek16s* pDst, i
 VEKS_API VekStatus veksPlantedNullIgnored_64f(const Vek64f* pSrc, Vek64f* pDst, int len);
 VEKS_API VekStatus veksPlantedSizeStatus_32f(const Vek32f* pSrc, Vek32f* pDst, int len);
 VEKS_API VekStatus veksPlantedSizeFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
+VEKS_API VekStatus veksPlantedPointerFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
 VEKS_API VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedShiftFirst_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedFails_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
