@@ -46,6 +46,17 @@ inline VekStatus mapTwo(Kernel kernel, const S1* src1, const S2* src2, T* dst, i
   return status != vekStsOk ? status : kernel(src1, src2, dst, static_cast<size_t>(len));
 }
 
+// kernel(src1, src2, dst, 2 n) on the real values that n complex ones consist of. The length is
+// checked first.
+template <class Kernel, class C>
+inline VekStatus mapTwoParts(Kernel kernel, const C* src1, const C* src2, C* dst, int len) {
+  using T = decltype(dst->re);
+  if (len <= 0) return vekErrSize;
+  if (!src1 || !src2 || !dst) return vekErrNullPtr;
+  return kernel(reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2),
+                reinterpret_cast<T*>(dst), 2 * static_cast<size_t>(len));
+}
+
 // kernel(src, val, dst, n)
 template <class Kernel, class S, class C, class T>
 inline VekStatus mapConstant(Kernel kernel, const S* src, C val, T* dst, int len) {

@@ -31,11 +31,12 @@ HWY_INLINE size_t lanesToBoundary(const T* p, size_t lanes) {
 }
 
 // n elements, at most two vectors of tag d: two vectors that overlap, or the same for halves. Both
-// are computed before the first store.
+// are computed before the first store. The hint spares few elements the taken branches, which are
+// most of their time.
 template <size_t kGroup, class D, class T, class Body>
 HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
   constexpr size_t kLanes = MaxLanes(D());
-  if (n >= kLanes) {
+  if (HWY_UNLIKELY(n >= kLanes)) {
     const auto first = body(d, 0);
     const auto last = body(d, n - kLanes);
     hn::StoreU(first, d, dst);
@@ -56,17 +57,21 @@ HWY_INLINE void store(D d, V v, T* dst) {
   }
 }
 
-// dst[i] = body for i = 0 .. n - 1, in ascending order, n at least two vectors. The body may read
-// dst, at the same positions or at later ones: the two vectors that overlap others are computed
-// first and stored last. Each vector is stored before the next one is loaded, which is faster than
-// in groups.
+// dst[i] = body for i = 0 .. n - 1, in ascending order, n more than two vectors. The body may read
+// dst, at the same positions or at later ones: a vector that overlaps others is computed before
+// they are stored. Each vector of the loop is stored before the next one is loaded, which is faster
+// than in groups.
 template <Stores stores, size_t kGroup, class T, class Body>
 HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   const hn::ScalableTag<T> d;
   constexpr size_t kLanes = MaxLanes(d);
-  const auto first = body(d, 0);
-  const auto last = body(d, n - kLanes);
   size_t i = lanesToBoundary<kGroup>(dst, kLanes);
+  const auto first = body(d, 0);
+  const auto aligned = body(d, i);
+  const auto last = body(d, n - kLanes);
+  hn::StoreU(first, d, dst);
+  hn::StoreU(aligned, d, dst + i);
+  i += kLanes;
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
     store<stores>(d, body(d, i), dst + i);
     store<stores>(d, body(d, i + kLanes), dst + i + kLanes);
@@ -75,7 +80,6 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   }
   for (; i + kLanes < n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
   if constexpr (stores == Stores::kStreaming) hwy::FlushStream();
-  hn::StoreU(first, d, dst);
   hn::StoreU(last, d, dst + n - kLanes);
 }
 
@@ -138,6 +142,31 @@ struct SourceAndConstant {
   }
 };
 
+template <class Op, class T>
+struct TwoSourcesAndSum {
+  const T* src1;
+  const T* src2;
+  const T* sum;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return Operation<Op>()(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i),
+                           hn::LoadU(d, sum + i));
+  }
+};
+
+// The real and the imaginary part of the constant in turn.
+template <class Op, class T>
+struct SourceAndComplexConstant {
+  const T* src;
+  T re;
+  T im;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    const auto val = hn::InterleaveLower(d, hn::Set(d, re), hn::Set(d, im));
+    return Operation<Op>()(d, hn::LoadU(d, src + i), val);
+  }
+};
+
 // dst[i] = Op(src[i])
 template <class Op, class T>
 VekStatus MapOne(const T* src, T* dst, size_t n) {
@@ -156,6 +185,22 @@ VekStatus MapTwo(const T* src1, const T* src2, T* dst, size_t n) {
 template <class Op, class T>
 VekStatus MapConstant(const T* src, T val, T* dst, size_t n) {
   produce(SourceAndConstant<Op, T>{src, val}, dst, n, src == dst);
+  return vekStsOk;
+}
+
+// dst[i] = Op(src[i], val) part by part, n complex values
+template <class Op, class C>
+VekStatus MapComplexConstant(const C* src, C val, C* dst, size_t n) {
+  using T = decltype(val.re);
+  const SourceAndComplexConstant<Op, T> body{reinterpret_cast<const T*>(src), val.re, val.im};
+  produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src == dst);
+  return vekStsOk;
+}
+
+// srcDst[i] = Op(src1[i], src2[i], srcDst[i])
+template <class Op, class T>
+VekStatus Accumulate(const T* src1, const T* src2, T* srcDst, size_t n) {
+  produce(TwoSourcesAndSum<Op, T>{src1, src2, srcDst}, srcDst, n, true);
   return vekStsOk;
 }
 
