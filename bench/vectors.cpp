@@ -51,13 +51,15 @@ unsigned char* workspace() {
   return static_cast<unsigned char*>(block.get());
 }
 
-// Random bytes (SplitMix64), the same for the same seed.
+// Random bytes (SplitMix64), the same for the same seed, but for the exponents of float and double
+// values among them, which are normal numbers of a magnitude below 2.
 void fill(unsigned char* p, size_t bytes, uint64_t seed) {
   for (size_t i = 0; i < bytes; i += sizeof(uint64_t)) {
     seed += 0x9E3779B97F4A7C15u;
     uint64_t word = (seed ^ (seed >> 30)) * 0xBF58476D1CE4E5B9u;
     word = (word ^ (word >> 27)) * 0x94D049BB133111EBu;
     word ^= word >> 31;
+    word = (word & 0x8FFFFFFF8FFFFFFFu) | 0x3000000030000000u;
     std::memcpy(p + i, &word, std::min(sizeof(word), bytes - i));
   }
 }

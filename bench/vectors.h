@@ -120,7 +120,7 @@ Peer peer(const char* name, R (*function)(T*, int)) {
 }
 
 // How often one call goes over a vector, reading or writing.
-enum Traffic : size_t { kWrite = 1, kReadWrite = 2, kTwoReadsWrite = 3 };
+enum Traffic : size_t { kWrite = 1, kReadWrite = 2, kTwoReadsWrite = 3, kThreeReadsWrite = 4 };
 
 // Registers NAME/SIZE/PLACEMENT for all sizes. The library is the first contestant.
 void addVectorCases(const char* name, Traffic traffic, const std::vector<Peer>& contestants,

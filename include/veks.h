@@ -12,6 +12,7 @@
 #include "veks/core/services.h"
 #include "veks/status.h"
 #include "veks/types.h"
+#include "veks/vector/arithmetic.h"
 #include "veks/vector/initialisation.h"
 #include "veks/vector/logical.h"
 

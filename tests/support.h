@@ -6,8 +6,10 @@
 
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "core/targets.h"
@@ -52,6 +54,18 @@ std::vector<T> randomBits(size_t n, uint64_t seed = 1) {
     uint64_t words[2] = {random(), random()};
     static_assert(sizeof(T) <= sizeof(words));
     std::memcpy(&element, words, sizeof(T));
+  }
+  return elements;
+}
+
+// The same without NaN: which of two NaN operands a sum takes its bits from is not defined.
+template <class T>
+std::vector<T> randomElements(size_t n, uint64_t seed = 1) {
+  std::vector<T> elements = randomBits<T>(n, seed);
+  if constexpr (std::is_floating_point_v<T>) {
+    for (T& x : elements) {
+      if (x != x) x = std::numeric_limits<T>::infinity();
+    }
   }
   return elements;
 }

@@ -1,12 +1,42 @@
 #include "peers/plain_loops.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "veks/types.h"
 
 namespace veks::bench::plain {
 namespace {
+
+template <class T>
+T apply(Add, T a, T b) {
+  return a + b;
+}
+
+Vek32fc apply(Add, Vek32fc a, Vek32fc b) {
+  return {a.re + b.re, a.im + b.im};
+}
+
+template <class T>
+T apply(Sub, T a, T b) {
+  return b - a;
+}
+
+template <class T>
+T apply(Mul, T a, T b) {
+  return a * b;
+}
+
+template <class T>
+T apply(Abs, T a) {
+  return std::fabs(a);
+}
+
+template <class T>
+T apply(Sqr, T a) {
+  return a * a;
+}
 
 template <class T>
 T apply(And, T a, T b) {
@@ -70,7 +100,7 @@ void Binary<Op, T>::separate(const T* __restrict src1, const T* __restrict src2,
 
 template <class Op, class T>
 void Binary<Op, T>::inPlace(const T* __restrict src, T* __restrict srcDst, int len) {
-  for (int i = 0; i < len; ++i) srcDst[i] = apply(Op(), srcDst[i], src[i]);
+  for (int i = 0; i < len; ++i) srcDst[i] = apply(Op(), src[i], srcDst[i]);
 }
 
 template <class Op, class T, class C>
@@ -81,6 +111,12 @@ void WithConstant<Op, T, C>::separate(const T* __restrict src, C val, T* __restr
 template <class Op, class T, class C>
 void WithConstant<Op, T, C>::inPlace(C val, T* srcDst, int len) {
   for (int i = 0; i < len; ++i) srcDst[i] = apply(Op(), srcDst[i], val);
+}
+
+template <class T>
+void Accumulate<T>::addProduct(const T* __restrict src1, const T* __restrict src2,
+                               T* __restrict srcDst, int len) {
+  for (int i = 0; i < len; ++i) srcDst[i] += src1[i] * src2[i];
 }
 
 template <class T>
@@ -137,6 +173,20 @@ template struct Unary<Not, Vek32u>;
 template struct Unary<SwapBytes, Vek16u>;
 template struct Unary<SwapBytes, Vek32u>;
 
+template struct Unary<Abs, Vek32f>;
+template struct Unary<Abs, Vek64f>;
+template struct Unary<Sqr, Vek32f>;
+template struct Unary<Sqr, Vek64f>;
+
+template struct Binary<Add, Vek32f>;
+template struct Binary<Add, Vek64f>;
+template struct Binary<Add, Vek32fc>;
+template struct Binary<Sub, Vek32f>;
+template struct Binary<Sub, Vek64f>;
+template struct Binary<Mul, Vek32f>;
+template struct Binary<Mul, Vek64f>;
+template struct Accumulate<Vek32f>;
+template struct Accumulate<Vek64f>;
 template struct Binary<And, Vek8u>;
 template struct Binary<And, Vek16u>;
 template struct Binary<And, Vek32u>;
@@ -147,6 +197,11 @@ template struct Binary<Xor, Vek8u>;
 template struct Binary<Xor, Vek16u>;
 template struct Binary<Xor, Vek32u>;
 
+template struct WithConstant<Add, Vek32f>;
+template struct WithConstant<Add, Vek64f>;
+template struct WithConstant<Add, Vek32fc>;
+template struct WithConstant<Mul, Vek32f>;
+template struct WithConstant<Mul, Vek64f>;
 template struct WithConstant<And, Vek8u>;
 template struct WithConstant<And, Vek16u>;
 template struct WithConstant<And, Vek32u>;

@@ -5,6 +5,11 @@
 
 namespace veks::bench::plain {
 
+struct Add {};
+struct Sub {};
+struct Mul {};
+struct Abs {};
+struct Sqr {};
 struct And {};
 struct Or {};
 struct Xor {};
@@ -32,6 +37,11 @@ template <class Op, class T, class C = T>
 struct WithConstant {
   static void separate(const T* src, C val, T* dst, int len);
   static void inPlace(C val, T* srcDst, int len);
+};
+
+template <class T>
+struct Accumulate {
+  static void addProduct(const T* src1, const T* src2, T* srcDst, int len);
 };
 
 template <class T>

@@ -17,7 +17,7 @@ VekStatus veksAnd_8u(const Vek8u* pSrc1, const Vek8u* pSrc2, Vek8u* pDst, int le
 }
 
 VekStatus veksAnd_8u_I(const Vek8u* pSrc, Vek8u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<And, Vek8u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<And, Vek8u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksAndC_8u(const Vek8u* pSrc, Vek8u val, Vek8u* pDst, int len) {
@@ -33,7 +33,7 @@ VekStatus veksAnd_16u(const Vek16u* pSrc1, const Vek16u* pSrc2, Vek16u* pDst, in
 }
 
 VekStatus veksAnd_16u_I(const Vek16u* pSrc, Vek16u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<And, Vek16u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<And, Vek16u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksAndC_16u(const Vek16u* pSrc, Vek16u val, Vek16u* pDst, int len) {
@@ -49,7 +49,7 @@ VekStatus veksAnd_32u(const Vek32u* pSrc1, const Vek32u* pSrc2, Vek32u* pDst, in
 }
 
 VekStatus veksAnd_32u_I(const Vek32u* pSrc, Vek32u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<And, Vek32u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<And, Vek32u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksAndC_32u(const Vek32u* pSrc, Vek32u val, Vek32u* pDst, int len) {
@@ -65,7 +65,7 @@ VekStatus veksOr_8u(const Vek8u* pSrc1, const Vek8u* pSrc2, Vek8u* pDst, int len
 }
 
 VekStatus veksOr_8u_I(const Vek8u* pSrc, Vek8u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<Or, Vek8u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<Or, Vek8u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksOrC_8u(const Vek8u* pSrc, Vek8u val, Vek8u* pDst, int len) {
@@ -81,7 +81,7 @@ VekStatus veksOr_16u(const Vek16u* pSrc1, const Vek16u* pSrc2, Vek16u* pDst, int
 }
 
 VekStatus veksOr_16u_I(const Vek16u* pSrc, Vek16u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<Or, Vek16u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<Or, Vek16u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksOrC_16u(const Vek16u* pSrc, Vek16u val, Vek16u* pDst, int len) {
@@ -97,7 +97,7 @@ VekStatus veksOr_32u(const Vek32u* pSrc1, const Vek32u* pSrc2, Vek32u* pDst, int
 }
 
 VekStatus veksOr_32u_I(const Vek32u* pSrc, Vek32u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<Or, Vek32u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<Or, Vek32u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksOrC_32u(const Vek32u* pSrc, Vek32u val, Vek32u* pDst, int len) {
@@ -113,7 +113,7 @@ VekStatus veksXor_8u(const Vek8u* pSrc1, const Vek8u* pSrc2, Vek8u* pDst, int le
 }
 
 VekStatus veksXor_8u_I(const Vek8u* pSrc, Vek8u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<Xor, Vek8u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<Xor, Vek8u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksXorC_8u(const Vek8u* pSrc, Vek8u val, Vek8u* pDst, int len) {
@@ -129,7 +129,7 @@ VekStatus veksXor_16u(const Vek16u* pSrc1, const Vek16u* pSrc2, Vek16u* pDst, in
 }
 
 VekStatus veksXor_16u_I(const Vek16u* pSrc, Vek16u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<Xor, Vek16u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<Xor, Vek16u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksXorC_16u(const Vek16u* pSrc, Vek16u val, Vek16u* pDst, int len) {
@@ -145,7 +145,7 @@ VekStatus veksXor_32u(const Vek32u* pSrc1, const Vek32u* pSrc2, Vek32u* pDst, in
 }
 
 VekStatus veksXor_32u_I(const Vek32u* pSrc, Vek32u* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapTwo<Xor, Vek32u>), pSrcDst, pSrc, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MapTwo<Xor, Vek32u>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksXorC_32u(const Vek32u* pSrc, Vek32u val, Vek32u* pDst, int len) {

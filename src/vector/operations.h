@@ -5,10 +5,20 @@
 
 namespace veks {
 
+// Sub subtracts the first operand from the second, SubFrom the second from the first.
+struct Add {};
+struct Sub {};
+struct SubFrom {};
+struct Mul {};
+struct Abs {};
+struct Sqr {};
+struct AddProduct {};
+
 struct And {};
 struct Or {};
 struct Xor {};
 struct Not {};
+
 struct SwapBytes {};
 
 }  // namespace veks

@@ -14,7 +14,7 @@ void checkMap(VekStatus (*out)(const T*, T*, int), VekStatus (*in)(T*, int),
               const Reference& reference, size_t valuesPerElement = 1) {
   onEveryTarget([&] {
     for (int len : testLengths()) {
-      const std::vector<T> src = randomBits<T>(static_cast<size_t>(len) * valuesPerElement);
+      const std::vector<T> src = randomElements<T>(static_cast<size_t>(len) * valuesPerElement);
       std::vector<T> expected = src;
       reference(expected);
       std::vector<T> dst(src.size());
@@ -33,8 +33,8 @@ void checkTwo(VekStatus (*out)(const T*, const T*, T*, int), VekStatus (*in)(con
               const Reference& reference) {
   onEveryTarget([&] {
     for (int len : testLengths()) {
-      const std::vector<T> src1 = randomBits<T>(static_cast<size_t>(len), 1);
-      const std::vector<T> src2 = randomBits<T>(static_cast<size_t>(len), 2);
+      const std::vector<T> src1 = randomElements<T>(static_cast<size_t>(len), 1);
+      const std::vector<T> src2 = randomElements<T>(static_cast<size_t>(len), 2);
       std::vector<T> expected(src1.size());
       for (size_t i = 0; i < src1.size(); ++i) {
         expected[i] = static_cast<T>(reference(src1[i], src2[i]));
@@ -57,9 +57,9 @@ void checkParameter(VekStatus (*out)(const T*, Parameter, T*, int),
                     const std::vector<int>& lengths, const Reference& reference) {
   onEveryTarget([&] {
     for (Parameter parameter : parameters) {
-      SCOPED_TRACE(testing::Message() << "parameter " << +parameter);
+      SCOPED_TRACE(testing::PrintToString(parameter));
       for (int len : lengths) {
-        const std::vector<T> src = randomBits<T>(static_cast<size_t>(len));
+        const std::vector<T> src = randomElements<T>(static_cast<size_t>(len));
         std::vector<T> expected(src.size());
         for (size_t i = 0; i < src.size(); ++i) {
           expected[i] = static_cast<T>(reference(src[i], parameter));
@@ -78,7 +78,7 @@ void checkParameter(VekStatus (*out)(const T*, Parameter, T*, int),
 template <class T, class Reference>
 void checkConstant(VekStatus (*out)(const T*, T, T*, int), VekStatus (*in)(T, T*, int),
                    const Reference& reference) {
-  checkParameter<T, T>(out, in, randomBits<T>(3, 3), testLengths(), reference);
+  checkParameter<T, T>(out, in, randomElements<T>(3, 3), testLengths(), reference);
 }
 
 }  // namespace veks::test
