@@ -5,6 +5,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import documentation
 import exports
 import headers
 from declarations import DeclarationError, Function, Parameter, parse
@@ -148,6 +149,29 @@ class HeadersTest(unittest.TestCase):
         self.assertEqual(len(self.check(cpp_only)), 2)
         c_only = "#ifndef H\n#define H\nvoid f(int * restrict p);\n#endif\n"
         self.assertEqual(len(self.check(c_only)), 2)
+
+
+class DocumentationTest(unittest.TestCase):
+    def test_functions_without_documentation_are_found(self):
+        text = """
+            /** Gives one. @return 1 */
+            VEKS_API int veksOne(void);
+            VEKS_API int veksBare(void);
+            /**
+             * @name Group
+             * @return a status
+             * @{
+             */
+            VEKS_API VekStatus veksFirst(int len);
+            VEKS_API VekStatus veksSecond(int len);
+            /** @} */
+            VEKS_API VekStatus veksAfter(int len);
+            /** Says nothing of its result. */
+            VEKS_API VekStatus veksSilent(int len);
+            /** Needs no result. */
+            VEKS_API void veksFree(void* ptr);
+        """
+        self.assertEqual(documentation.check(text), ["veksBare", "veksAfter", "veksSilent"])
 
 
 if __name__ == "__main__":
