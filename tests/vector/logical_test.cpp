@@ -1,4 +1,5 @@
 // Bitwise logic and shifts against element loops.
+#include <algorithm>
 #include <limits>
 
 #include "support.h"
@@ -47,24 +48,15 @@ TEST(Logical, Not) {
   checkMap(veksNot_32u, veksNot_32u_I, complement);
 }
 
-// Shifted bit by bit, so that any count has a meaning.
+// In 64 bits, which hold every element; any count has a meaning.
 template <class T>
 T shiftedLeft(T x, int bits) {
-  for (; bits > 0 && x != 0; --bits) x = static_cast<T>(static_cast<uint64_t>(x) * 2);
-  return x;
+  return bits > 63 ? T{0} : static_cast<T>(static_cast<uint64_t>(x) << bits);
 }
 
 template <class T>
 T shiftedRight(T x, int bits) {
-  for (; bits > 0 && x != 0 && x != static_cast<T>(-1); --bits) {
-    const bool odd = x % 2 != 0;
-    x = static_cast<T>((x - (odd ? 1 : 0)) / 2);
-  }
-  // All ones are zero or minus one after any further shift.
-  if (bits > 0 && x == static_cast<T>(-1) && !std::is_signed_v<T>) {
-    x = bits >= 8 * static_cast<int>(sizeof(T)) ? T{0} : static_cast<T>(x >> bits);
-  }
-  return x;
+  return static_cast<T>(int64_t{x} >> std::min(bits, 63));
 }
 
 template <class T>
