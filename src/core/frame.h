@@ -25,11 +25,11 @@ inline VekStatus generate(Kernel kernel, T val, T* dst, int len) {
   return status != vekStsOk ? status : kernel(val, dst, static_cast<size_t>(len));
 }
 
-// kernel(src, dst, n)
-template <class Kernel, class S, class T>
-inline VekStatus mapOne(Kernel kernel, const S* src, T* dst, int len) {
+// kernel(src, dst, n, parameters ...)
+template <class Kernel, class S, class T, class... P>
+inline VekStatus mapOne(Kernel kernel, const S* src, T* dst, int len, P... parameters) {
   const VekStatus status = checkVectors(len, src, dst);
-  return status != vekStsOk ? status : kernel(src, dst, static_cast<size_t>(len));
+  return status != vekStsOk ? status : kernel(src, dst, static_cast<size_t>(len), parameters...);
 }
 
 // kernel(srcDst, n)
@@ -39,11 +39,13 @@ inline VekStatus mapInPlace(Kernel kernel, T* srcDst, int len) {
   return status != vekStsOk ? status : kernel(srcDst, static_cast<size_t>(len));
 }
 
-// kernel(src1, src2, dst, n)
-template <class Kernel, class S1, class S2, class T>
-inline VekStatus mapTwo(Kernel kernel, const S1* src1, const S2* src2, T* dst, int len) {
+// kernel(src1, src2, dst, n, parameters ...)
+template <class Kernel, class S1, class S2, class T, class... P>
+inline VekStatus mapTwo(Kernel kernel, const S1* src1, const S2* src2, T* dst, int len,
+                        P... parameters) {
   const VekStatus status = checkVectors(len, src1, src2, dst);
-  return status != vekStsOk ? status : kernel(src1, src2, dst, static_cast<size_t>(len));
+  if (status != vekStsOk) return status;
+  return kernel(src1, src2, dst, static_cast<size_t>(len), parameters...);
 }
 
 // kernel(src1, src2, dst, 2 n) on the real values that n complex ones consist of. The length is
@@ -57,11 +59,12 @@ inline VekStatus mapTwoParts(Kernel kernel, const C* src1, const C* src2, C* dst
                 reinterpret_cast<T*>(dst), 2 * static_cast<size_t>(len));
 }
 
-// kernel(src, val, dst, n)
-template <class Kernel, class S, class C, class T>
-inline VekStatus mapConstant(Kernel kernel, const S* src, C val, T* dst, int len) {
+// kernel(src, val, dst, n, parameters ...)
+template <class Kernel, class S, class C, class T, class... P>
+inline VekStatus mapConstant(Kernel kernel, const S* src, C val, T* dst, int len, P... parameters) {
   const VekStatus status = checkVectors(len, src, dst);
-  return status != vekStsOk ? status : kernel(src, val, dst, static_cast<size_t>(len));
+  if (status != vekStsOk) return status;
+  return kernel(src, val, dst, static_cast<size_t>(len), parameters...);
 }
 
 // kernel(src, bits, dst, n) with bits >= 0

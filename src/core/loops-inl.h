@@ -100,7 +100,10 @@ HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
   // The hints lay one and two vectors out without a taken branch: there it counts.
   if (HWY_LIKELY(n <= 2 * MaxLanes(d))) {
     if (HWY_LIKELY(n >= MaxLanes(d))) return produceShort<kGroup>(d, body, dst, n);
-    return produceShort<kGroup>(hn::Half<decltype(d)>(), body, dst, n);
+    if constexpr (MaxLanes(d) > kGroup) {
+      produceShort<kGroup>(hn::Half<decltype(d)>(), body, dst, n);
+    }
+    return;
   }
   if (wantsStreaming<kGroup>(dst, n, inPlace)) {
     return produceLoop<Stores::kStreaming, kGroup>(body, dst, n);
@@ -108,91 +111,140 @@ HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
   produceLoop<Stores::kCached, kGroup>(body, dst, n);
 }
 
+// The same for bodies of many instructions, of which it makes few copies: next to their time, that
+// of the loop around them is small.
+template <size_t kGroup, class D, class T, class Body>
+HWY_INLINE void produceCompactShort(D d, const Body& body, T* dst, size_t n) {
+  constexpr size_t kLanes = MaxLanes(D());
+  if (n >= kLanes) {
+    hn::Vec<D> results[2];
+    const size_t positions[2] = {0, n - kLanes};
+#pragma GCC unroll 1
+    for (size_t k = 0; k < 2; ++k) results[k] = body(d, positions[k]);
+    hn::StoreU(results[0], d, dst);
+    hn::StoreU(results[1], d, dst + n - kLanes);
+  } else if constexpr (kLanes > kGroup) {
+    produceCompactShort<kGroup>(hn::Half<D>(), body, dst, n);
+  }
+}
+
+template <size_t kGroup = 1, class T, class Body>
+HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace) {
+  const hn::ScalableTag<T> d;
+  constexpr size_t kLanes = MaxLanes(d);
+  if constexpr (kLanes > kGroup) {
+    if (n < kLanes) {
+      return produceCompactShort<kGroup>(hn::Half<decltype(d)>(), body, dst, n);
+    }
+  }
+  // In place, no vector but the last may overlap another.
+  const size_t boundary = lanesToBoundary<kGroup>(dst, kLanes);
+  const bool streaming = wantsStreaming<kGroup>(dst, n, inPlace);
+  const auto last = body(d, n - kLanes);
+  for (size_t i = 0; i + kLanes <= n;
+       i += i == 0 && !inPlace && boundary != 0 ? boundary : kLanes) {
+    const auto v = body(d, i);
+    if (streaming && i != 0) {
+      hn::Stream(v, d, dst + i);
+    } else {
+      hn::StoreU(v, d, dst + i);
+    }
+  }
+  if (streaming) hwy::FlushStream();
+  hn::StoreU(last, d, dst + n - kLanes);
+}
+
 // What an operation tag does to vectors: Operation<Op>()(d, v ...) gives the vector of results. The
 // families specialise it for their tags.
 template <class Op>
 struct Operation;
 
-template <class Op, class T>
+// Bodies that apply a function f(d, v ...) to vectors of their sources.
+template <class F, class T>
 struct OneSource {
   const T* src;
+  F f = {};
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return Operation<Op>()(d, hn::LoadU(d, src + i));
+    return f(d, hn::LoadU(d, src + i));
   }
 };
 
-template <class Op, class T>
+template <class F, class T>
 struct TwoSources {
   const T* src1;
   const T* src2;
+  F f = {};
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return Operation<Op>()(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i));
+    return f(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i));
   }
 };
 
-template <class Op, class T>
+template <class F, class T>
 struct SourceAndConstant {
   const T* src;
   T val;
+  F f = {};
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return Operation<Op>()(d, hn::LoadU(d, src + i), hn::Set(d, val));
+    return f(d, hn::LoadU(d, src + i), hn::Set(d, val));
   }
 };
 
-template <class Op, class T>
+template <class F, class T>
 struct TwoSourcesAndSum {
   const T* src1;
   const T* src2;
   const T* sum;
+  F f = {};
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return Operation<Op>()(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i),
-                           hn::LoadU(d, sum + i));
+    return f(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i), hn::LoadU(d, sum + i));
   }
 };
 
 // The real and the imaginary part of the constant in turn.
-template <class Op, class T>
+template <class F, class T>
 struct SourceAndComplexConstant {
   const T* src;
   T re;
   T im;
+  F f = {};
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    const auto val = hn::InterleaveLower(d, hn::Set(d, re), hn::Set(d, im));
-    return Operation<Op>()(d, hn::LoadU(d, src + i), val);
+    const auto val = hn::OddEven(hn::Set(d, im), hn::Set(d, re));
+    return f(d, hn::LoadU(d, src + i), val);
   }
 };
 
 // dst[i] = Op(src[i])
 template <class Op, class T>
 VekStatus MapOne(const T* src, T* dst, size_t n) {
-  produce(OneSource<Op, T>{src}, dst, n, src == dst);
+  produce(OneSource<Operation<Op>, T>{src}, dst, n, src == dst);
   return vekStsOk;
 }
 
 // dst[i] = Op(src1[i], src2[i])
 template <class Op, class T>
 VekStatus MapTwo(const T* src1, const T* src2, T* dst, size_t n) {
-  produce(TwoSources<Op, T>{src1, src2}, dst, n, src1 == dst || src2 == dst);
+  produce(TwoSources<Operation<Op>, T>{src1, src2}, dst, n, src1 == dst || src2 == dst);
   return vekStsOk;
 }
 
 // dst[i] = Op(src[i], val)
 template <class Op, class T>
 VekStatus MapConstant(const T* src, T val, T* dst, size_t n) {
-  produce(SourceAndConstant<Op, T>{src, val}, dst, n, src == dst);
+  produce(SourceAndConstant<Operation<Op>, T>{src, val}, dst, n, src == dst);
   return vekStsOk;
 }
 
-// dst[i] = Op(src[i], val) part by part, n complex values
+// dst[i] = Op(src[i], val), n complex values
 template <class Op, class C>
 VekStatus MapComplexConstant(const C* src, C val, C* dst, size_t n) {
   using T = decltype(val.re);
-  const SourceAndComplexConstant<Op, T> body{reinterpret_cast<const T*>(src), val.re, val.im};
+  const SourceAndComplexConstant<Operation<Op>, T> body{reinterpret_cast<const T*>(src), val.re,
+                                                        val.im};
   produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src == dst);
   return vekStsOk;
 }
@@ -200,7 +252,7 @@ VekStatus MapComplexConstant(const C* src, C val, C* dst, size_t n) {
 // srcDst[i] = Op(src1[i], src2[i], srcDst[i])
 template <class Op, class T>
 VekStatus Accumulate(const T* src1, const T* src2, T* srcDst, size_t n) {
-  produce(TwoSourcesAndSum<Op, T>{src1, src2, srcDst}, srcDst, n, true);
+  produce(TwoSourcesAndSum<Operation<Op>, T>{src1, src2, srcDst}, srcDst, n, true);
   return vekStsOk;
 }
 

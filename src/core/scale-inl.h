@@ -1,4 +1,4 @@
-// The vector form of the scale-factor rule.
+// The vector form of the scale-factor rule, and sums that keep their carry for it.
 #if defined(VEKS_CORE_SCALE_INL_H) == defined(HWY_TARGET_TOGGLE)
 #ifdef VEKS_CORE_SCALE_INL_H
 #undef VEKS_CORE_SCALE_INL_H
@@ -16,43 +16,82 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Clamps signed lanes to the range of Dst.
+// Clamps lanes to the range of Dst.
 template <class Dst, class D, class V>
 HWY_INLINE V saturateTo(D d, V r) {
   using Wide = hn::TFromD<D>;
   if constexpr (sizeof(Dst) == sizeof(Wide)) {
     return r;
   } else {
-    const auto max = hn::Set(d, Wide{std::numeric_limits<Dst>::max()});
-    const auto min = hn::Set(d, Wide{std::numeric_limits<Dst>::min()});
-    return hn::Min(hn::Max(r, min), max);
+    const V belowMax = hn::Min(r, hn::Set(d, Wide{std::numeric_limits<Dst>::max()}));
+    if constexpr (!std::is_signed_v<Wide>) {
+      return belowMax;
+    } else {
+      return hn::Max(belowMax, hn::Set(d, Wide{std::numeric_limits<Dst>::min()}));
+    }
   }
 }
 
-// scaleTo() for signed lanes of Wide, the path a constant: results in the range of Dst, but for the
-// paths kSaturate and kRound, whose results a saturating narrowing or saturateTo() must follow.
+// h + l / 2 to nearest, ties to even, where l is the lowest bit of `half`; the others are ignored.
+template <class D, class V>
+HWY_INLINE V roundHalves(D d, V h, V half) {
+  using T = hn::TFromD<D>;
+  return hn::Add(h, hn::And(hn::And(h, half), hn::Set(d, T{1})));
+}
+
+// (h + l / 2) / 2^bits likewise, 0 < bits <= the width of the lanes, or less than it if signed.
+template <class D, class V>
+HWY_INLINE V roundShift(D d, V h, V half, int bits) {
+  using T = hn::TFromD<D>;
+  using Unsigned = std::make_unsigned_t<T>;
+  const auto middle = static_cast<Unsigned>(Unsigned{1} << (bits - 1));
+  const V mask = hn::Set(d, static_cast<T>(static_cast<Unsigned>(middle - 1 + middle)));
+  // Unsigned lanes of 32 bits may be shifted by all of them, which not every target can.
+  const V quotient = std::is_same_v<T, uint32_t>
+                         ? hn::ShiftRight<1>(hn::ShiftRightSame(h, bits - 1))
+                         : hn::ShiftRightSame(h, bits);
+  const V remainder = hn::And(h, mask);
+  const V odd = hn::And(hn::Or(quotient, half), hn::Set(d, T{1}));
+  if constexpr (std::is_signed_v<T>) {
+    const V threshold = hn::Sub(hn::Set(d, static_cast<T>(middle)), odd);
+    return hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(remainder, threshold)));
+  } else {
+    // Unsigned lanes have a maximum, but no comparison.
+    const V least = hn::Sub(hn::Set(d, static_cast<T>(middle + 1)), odd);
+    return hn::Sub(quotient, hn::VecFromMask(d, hn::Eq(hn::Max(remainder, least), remainder)));
+  }
+}
+
+// r * 2^bits clamped to the range of Dst, 0 < bits <= kMagnitude<Dst>.
+template <class Dst, class D, class V>
+HWY_INLINE V shiftLeftSaturated(D d, V r, int bits) {
+  using Wide = hn::TFromD<D>;
+  const V max = hn::Set(d, static_cast<Wide>(std::numeric_limits<Dst>::max()));
+  const V lastBelowMax = hn::Set(d, static_cast<Wide>(maxBeforeShift<Dst>(bits)));
+  if constexpr (std::is_signed_v<Wide>) {
+    const V min = hn::Set(d, static_cast<Wide>(std::numeric_limits<Dst>::min()));
+    const V lastAboveMin = hn::Set(d, static_cast<Wide>(minBeforeShift<Dst>(bits)));
+    const V shifted = hn::ShiftLeftSame(r, bits);
+    const V belowMax = hn::IfThenElse(hn::Gt(r, lastBelowMax), max, shifted);
+    return hn::IfThenElse(hn::Gt(lastAboveMin, r), min, belowMax);
+  } else {
+    const V clamped = hn::Min(r, lastBelowMax);
+    return hn::IfThenElse(hn::Eq(clamped, r), hn::ShiftLeftSame(clamped, bits), max);
+  }
+}
+
+// scaleTo() for lanes of Wide, the path a constant: results in the range of Dst, but for the paths
+// of s >= 0, whose results a saturating narrowing or saturateTo() must follow.
 template <ScalePath path, class Dst, class D, class V>
 HWY_INLINE V scaleTo(D d, V r, int bits) {
-  using Wide = hn::TFromD<D>;
-  const auto max = hn::Set(d, static_cast<Wide>(std::numeric_limits<Dst>::max()));
-  const auto min = hn::Set(d, static_cast<Wide>(std::numeric_limits<Dst>::min()));
   if constexpr (path == ScalePath::kSaturate) {
     return r;
+  } else if constexpr (path == ScalePath::kHalve) {
+    return roundHalves(d, hn::ShiftRight<1>(r), r);
   } else if constexpr (path == ScalePath::kRound) {
-    const auto half = hn::Set(d, static_cast<Wide>(Wide{1} << (bits - 1)));
-    const auto one = hn::Set(d, Wide{1});
-    const auto quotient = hn::ShiftRightSame(r, bits);
-    const auto remainder = hn::And(r, hn::Add(hn::Sub(half, one), half));
-    const auto threshold = hn::Sub(half, hn::And(quotient, one));
-    return hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(remainder, threshold)));
+    return roundShift(d, r, hn::Zero(d), bits);
   } else if constexpr (path == ScalePath::kShiftLeft) {
-    const auto shifted = hn::ShiftLeftSame(r, bits);
-    const auto aboveMax = hn::Gt(r, hn::ShiftRightSame(max, bits));
-    const auto belowMin = hn::Lt(r, hn::ShiftRightSame(min, bits));
-    return hn::IfThenElse(aboveMax, max, hn::IfThenElse(belowMin, min, shifted));
-  } else if constexpr (path == ScalePath::kSign) {
-    const auto zero = hn::Zero(d);
-    return hn::IfThenElse(hn::Gt(r, zero), max, hn::IfThenElse(hn::Lt(r, zero), min, zero));
+    return shiftLeftSaturated<Dst>(d, r, bits);
   } else {
     return hn::Zero(d);
   }
@@ -64,16 +103,63 @@ HWY_INLINE auto withScalePath(ScalePath path, const Loop& loop) {
   switch (path) {
     case ScalePath::kSaturate:
       return loop(ScalePathTag<ScalePath::kSaturate>());
+    case ScalePath::kHalve:
+      return loop(ScalePathTag<ScalePath::kHalve>());
     case ScalePath::kRound:
       return loop(ScalePathTag<ScalePath::kRound>());
     case ScalePath::kShiftLeft:
       return loop(ScalePathTag<ScalePath::kShiftLeft>());
-    case ScalePath::kSign:
-      return loop(ScalePathTag<ScalePath::kSign>());
     case ScalePath::kZero:
       break;
   }
   return loop(ScalePathTag<ScalePath::kZero>());
+}
+
+// a + b and b - a clamped to the range of the lanes, for every integer type.
+template <class D, class V>
+HWY_INLINE V saturatedSum(D d, V a, V b) {
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) <= 2) {
+    return hn::SaturatedAdd(a, b);
+  } else if constexpr (!std::is_signed_v<T>) {
+    return hn::Add(a, hn::Min(b, hn::Not(a)));
+  } else {
+    const V sum = hn::Add(a, b);
+    const V overflow = hn::And(hn::Xor(a, sum), hn::Xor(b, sum));
+    const V limit = hn::Xor(hn::BroadcastSignBit(a), hn::Set(d, std::numeric_limits<T>::max()));
+    return hn::IfThenElse(hn::MaskFromVec(hn::BroadcastSignBit(overflow)), limit, sum);
+  }
+}
+template <class D, class V>
+HWY_INLINE V saturatedDifference(D d, V a, V b) {
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) <= 2) {
+    return hn::SaturatedSub(b, a);
+  } else {
+    static_assert(std::is_signed_v<T>, "no function needs it");
+    const V difference = hn::Sub(b, a);
+    const V overflow = hn::And(hn::Xor(a, b), hn::Xor(b, difference));
+    const V limit = hn::Xor(hn::BroadcastSignBit(b), hn::Set(d, std::numeric_limits<T>::max()));
+    return hn::IfThenElse(hn::MaskFromVec(hn::BroadcastSignBit(overflow)), limit, difference);
+  }
+}
+
+// floor((a + b) / 2); the bit that is lost is the lowest of a ^ b.
+template <class D, class V>
+HWY_INLINE V halfSum(D d, V a, V b) {
+  using T = hn::TFromD<D>;
+  const V differing = hn::Xor(a, b);
+  if constexpr (!std::is_signed_v<T> && sizeof(T) <= 2) {
+    return hn::Sub(hn::AverageRound(a, b), hn::And(differing, hn::Set(d, T{1})));
+  } else {
+    return hn::Add(hn::And(a, b), hn::ShiftRight<1>(differing));
+  }
+}
+
+// floor((b - a) / 2) of signed lanes; the bit that is lost is again the lowest of a ^ b.
+template <class V>
+HWY_INLINE V halfDifference(V a, V b) {
+  return hn::Sub(hn::ShiftRight<1>(hn::Xor(a, b)), hn::AndNot(b, a));
 }
 
 }  // namespace HWY_NAMESPACE

@@ -10,18 +10,19 @@
 
 namespace veks {
 
-// The five forms of the rule, told apart once per call.
+// The forms of the rule, told apart once per call.
 enum class ScalePath {
   kSaturate,   // s = 0
-  kRound,      // shift right with rounding
+  kHalve,      // s = 1, where ties need no comparison
+  kRound,      // s > 1
   kZero,       // every result rounds to 0
-  kShiftLeft,  // shift left with saturation
-  kSign        // every non-zero result saturates
+  kShiftLeft,  // s < 0
 };
 
+// s > 0 or the shift to the left.
 struct Scale {
   ScalePath path;
-  int bits;  // shift count of kRound and kShiftLeft, within the width of the types
+  int bits;
 };
 
 template <ScalePath path>
@@ -32,42 +33,59 @@ struct ScalePathTag {
 template <class T>
 inline constexpr int kWidth = 8 * static_cast<int>(sizeof(T));
 
-// The path for results of type Wide, signed, and destinations of type Dst. The magnitude of r is at
-// most 2^(kWidth<Wide> - 1), so a shift by kWidth<Wide> leaves at most one half, which ties to 0.
-template <class Dst, class Wide>
-constexpr Scale chooseScale(int scaleFactor) {
-  static_assert(std::is_signed_v<Wide>, "operations on unsigned samples have signed intermediates");
-  static_assert(kWidth<Wide> > kWidth<Dst> || std::is_same_v<Wide, Dst>, "Wide holds all of Dst");
+// The magnitude bits of all values of a type: its results are at most 2^kMagnitude, those of an
+// unsigned type less.
+template <class T>
+inline constexpr int kMagnitude = std::numeric_limits<T>::digits;
+
+// The path for results of so many magnitude bits. With one more to shift than these, at most one
+// half is left, which ties to 0.
+template <class Dst>
+constexpr Scale chooseScale(int scaleFactor, int magnitudeBits) {
+  // Shifted so far, everything but 0 saturates.
+  constexpr int kFarLeft = kMagnitude<Dst>;
   if (scaleFactor == 0) return {ScalePath::kSaturate, 0};
-  if (scaleFactor >= kWidth<Wide>) return {ScalePath::kZero, 0};
-  if (scaleFactor > 0) return {ScalePath::kRound, scaleFactor};
-  if (scaleFactor <= -kWidth<Dst>) return {ScalePath::kSign, 0};
-  return {ScalePath::kShiftLeft, -scaleFactor};
+  if (scaleFactor > magnitudeBits) return {ScalePath::kZero, 0};
+  if (scaleFactor == 1) return {ScalePath::kHalve, 1};
+  if (scaleFactor > 1) return {ScalePath::kRound, scaleFactor};
+  return {ScalePath::kShiftLeft, scaleFactor < -kFarLeft ? kFarLeft : -scaleFactor};
 }
 
 template <class Dst, class Wide>
 constexpr Dst saturateTo(Wide r) {
   constexpr Wide kMax = std::numeric_limits<Dst>::max();
-  constexpr Wide kMin = std::numeric_limits<Dst>::min();
+  constexpr Wide kMin = std::is_signed_v<Wide> ? std::numeric_limits<Dst>::min() : 0;
   return static_cast<Dst>(r > kMax ? kMax : (r < kMin ? kMin : r));
 }
 
-// r / 2^bits to nearest, ties to even, 0 < bits < kWidth<Wide>. Adding the rounding constant to r
-// could overflow; comparing the remainder cannot.
+// r / 2^bits to nearest, ties to even, 0 < bits <= kMagnitude<Wide>. Adding the rounding constant
+// to r could overflow; comparing the remainder cannot. A shift by the width is made in two steps.
 template <class Wide>
 constexpr Wide roundShift(Wide r, int bits) {
   const Wide half = static_cast<Wide>(Wide{1} << (bits - 1));
-  const Wide quotient = static_cast<Wide>(r >> bits);
+  const Wide quotient = static_cast<Wide>((r >> (bits - 1)) >> 1);
   const Wide remainder = static_cast<Wide>(r & (half - 1 + half));
   return static_cast<Wide>(quotient + (remainder > half - (quotient & 1) ? 1 : 0));
 }
 
+// The greatest and the least value that stay within Dst when shifted left.
+template <class Dst>
+constexpr Dst maxBeforeShift(int bits) {
+  return static_cast<Dst>(bits == kWidth<Dst> ? 0 : std::numeric_limits<Dst>::max() >> bits);
+}
+template <class Dst>
+constexpr Dst minBeforeShift(int bits) {
+  return static_cast<Dst>(bits == kWidth<Dst> ? 0 : std::numeric_limits<Dst>::min() >> bits);
+}
+
+// 0 < bits <= kMagnitude<Dst>
 template <class Dst, class Wide>
 constexpr Dst shiftLeftSaturated(Wide r, int bits) {
-  constexpr Dst kMax = std::numeric_limits<Dst>::max();
-  constexpr Dst kMin = std::numeric_limits<Dst>::min();
-  if (r > Wide{kMax} >> bits) return kMax;
-  if (r < Wide{kMin} >> bits) return kMin;
+  if (r > Wide{maxBeforeShift<Dst>(bits)}) return std::numeric_limits<Dst>::max();
+  if (std::is_signed_v<Wide> && r < static_cast<Wide>(minBeforeShift<Dst>(bits))) {
+    return std::numeric_limits<Dst>::min();
+  }
+  if (r == 0) return 0;
   return static_cast<Dst>(static_cast<std::make_unsigned_t<Wide>>(r) << bits);
 }
 
@@ -77,13 +95,11 @@ constexpr Dst scaleTo(Wide r, Scale scale) {
   switch (scale.path) {
     case ScalePath::kSaturate:
       return saturateTo<Dst>(r);
+    case ScalePath::kHalve:
     case ScalePath::kRound:
       return saturateTo<Dst>(roundShift(r, scale.bits));
     case ScalePath::kShiftLeft:
       return shiftLeftSaturated<Dst>(r, scale.bits);
-    case ScalePath::kSign:
-      if (r == 0) return 0;
-      return r > 0 ? std::numeric_limits<Dst>::max() : std::numeric_limits<Dst>::min();
     case ScalePath::kZero:
       break;
   }

@@ -9,10 +9,19 @@ namespace veks {
 struct Add {};
 struct Sub {};
 struct SubFrom {};
-struct Mul {};
 struct Abs {};
-struct Sqr {};
 struct AddProduct {};
+
+// MulExact has operands whose products fit, MulUnsigned a first operand of unsigned values in
+// signed lanes. Product is a product that was formed already.
+struct Mul {};
+struct MulExact {};
+struct MulUnsigned {};
+struct Product {};
+struct Sqr {};
+struct MulComplex {};
+struct SqrComplex {};
+struct AddProductComplex {};
 
 struct And {};
 struct Or {};

@@ -33,7 +33,7 @@ struct ScaleLoop {
 
 template <class Dst, class Wide>
 VekStatus ScaleVector(const Wide* src, int scaleFactor, Wide* dst, size_t n) {
-  const Scale scale = chooseScale<Dst, Wide>(scaleFactor);
+  const Scale scale = chooseScale<Dst>(scaleFactor, kMagnitude<Wide>);
   return withScalePath(scale.path, ScaleLoop<Dst, Wide>{src, dst, n, scale.bits});
 }
 

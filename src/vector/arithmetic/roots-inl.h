@@ -1,0 +1,174 @@
+// Square roots.
+#if defined(VEKS_VECTOR_ARITHMETIC_ROOTS_INL_H) == defined(HWY_TARGET_TOGGLE)
+#ifdef VEKS_VECTOR_ARITHMETIC_ROOTS_INL_H
+#undef VEKS_VECTOR_ARITHMETIC_ROOTS_INL_H
+#else
+#define VEKS_VECTOR_ARITHMETIC_ROOTS_INL_H
+#endif
+
+#include "vector/arithmetic/complex_quotients-inl.h"
+#include "vector/arithmetic/exact_root.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace veks {
+namespace HWY_NAMESPACE {
+
+HWY_INLINE VekStatus rootStatus(bool negativeSeen) {
+  return negativeSeen ? vekWrnSqrtNegArg : vekStsOk;
+}
+
+struct SquareRoot {
+  bool* negativeSeen;
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    *negativeSeen |= !hn::AllFalse(d, hn::Lt(v, hn::Zero(d)));
+    return hn::Sqrt(v);
+  }
+};
+
+template <class T>
+VekStatus SqrtOne(const T* src, T* dst, size_t n) {
+  bool negativeSeen = false;
+  produceCompact(OneSource<SquareRoot, T>{src, {&negativeSeen}}, dst, n, src == dst);
+  return rootStatus(negativeSeen);
+}
+
+// Roots of integers in the precision F.
+template <class F, class S>
+struct IntegerRoots {
+  const S* src;
+  F factor;
+  bool* negativeSeen;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return inParts<F>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
+      using T = hn::TFromD<decltype(dPart)>;
+      const hn::Rebind<F, decltype(dPart)> df;
+      const auto x = loadAsFloats(df, src + k);
+      const auto zero = hn::Zero(df);
+      if constexpr (std::is_signed_v<S>) *negativeSeen |= !hn::AllFalse(df, hn::Lt(x, zero));
+      const auto root = hn::Mul(hn::Sqrt(hn::Max(x, zero)), hn::Set(df, factor));
+      const auto max = hn::Set(df, static_cast<F>(std::numeric_limits<T>::max()));
+      return demoteIntegers(dPart, nearestInt32(df, hn::Min(root, max)));
+    });
+  }
+};
+
+// Where a scaled root is no tie, its square is 1 / (4 x) of itself away from a tie's if s >= 0, and
+// 1 / (4 x 4^-s) > 2^-32 if s < 0: float resolves the first for 16 bits, double everything here.
+template <class S, class T>
+VekStatus SqrtScaled(const S* src, T* dst, size_t n, int scaleFactor) {
+  bool negativeSeen = false;
+  const void* const out = dst;
+  if (sizeof(S) <= 2 && scaleFactor >= 0) {
+    const IntegerRoots<float, S> body{src, scaleMultiplier<float>(scaleFactor), &negativeSeen};
+    produceCompact(body, dst, n, out == src);
+  } else {
+    const IntegerRoots<double, S> body{src, scaleMultiplier<double>(scaleFactor), &negativeSeen};
+    produceCompact(body, dst, n, out == src);
+  }
+  return rootStatus(negativeSeen);
+}
+
+template <class T>
+VekStatus SqrtLongScaled(const int64_t* src, T* dst, size_t n, int scaleFactor) {
+  bool negativeSeen = false;
+  for (size_t i = 0; i < n; ++i) {
+    negativeSeen |= src[i] < 0;
+    dst[i] = scaledRoot<T>(src[i], scaleFactor);
+  }
+  return rootStatus(negativeSeen);
+}
+
+// The root with a real part that is not negative. Its larger part comes from a sum without
+// cancellation, the other from y = 2 re im. v may be scaled, which `back` undoes for its root; y,
+// the imaginary part in both places, is then divided by `back`.
+template <class D, class V>
+HWY_INLINE V complexRoot(D d, V v, V y, V back) {
+  const V squares = hn::Mul(v, v);
+  const V magnitude = hn::Sqrt(hn::Add(squares, swapParts(d, squares)));
+  const V x = hn::DupEven(v);
+  const V half = hn::Set(d, 0.5);
+  const V root = hn::Sqrt(hn::Mul(hn::Add(magnitude, hn::Abs(x)), half));
+  const V quotient = hn::Div(hn::Mul(hn::Abs(y), half), root);
+  const V smaller = hn::IfThenZeroElse(hn::Eq(root, hn::Zero(d)), quotient);
+  const V larger = hn::Mul(root, back);
+  const auto negative = hn::Lt(x, hn::Zero(d));
+  const V re = hn::IfThenElse(negative, smaller, larger);
+  const V im = hn::CopySign(hn::IfThenElse(negative, larger, smaller), y);
+  return hn::OddEven(im, re);
+}
+
+struct ComplexFloatRoots {
+  const float* src;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return inParts<double>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
+      const hn::Rebind<double, decltype(dPart)> dd;
+      const auto v = hn::PromoteTo(dd, hn::LoadU(dPart, src + k));
+      return hn::DemoteTo(dPart, complexRoot(dd, v, hn::DupOdd(v), hn::Set(dd, 1.0)));
+    });
+  }
+};
+
+inline VekStatus SqrtComplexFloat(const Vek32fc* src, Vek32fc* dst, size_t n) {
+  produceCompact<2>(ComplexFloatRoots{reinterpret_cast<const float*>(src)},
+                    reinterpret_cast<float*>(dst), 2 * n, src == dst);
+  return vekStsOk;
+}
+
+// Scaled near 1 by a power of 4.
+struct ComplexRoot {
+  template <class D, class V>
+  HWY_INLINE V operator()(D d, V v) const {
+    const hn::Repartition<int64_t, D> di;
+    const auto one = hn::BitCast(di, hn::Set(d, 1.0));
+    const auto inverse = hn::BitCast(di, inverseMagnitude(d, v));
+    // With its bias of 1023, an even exponent is odd.
+    const auto scale = hn::Or(inverse, hn::Set(di, kExponentOne));
+    const auto halfExponent = hn::ShiftRight<1>(hn::Sub(scale, one));
+    const V rootOfScale = hn::BitCast(d, hn::Add(one, halfExponent));
+    const V back = hn::BitCast(d, hn::Sub(one, halfExponent));
+    return complexRoot(d, hn::Mul(v, hn::BitCast(d, scale)), hn::Mul(hn::DupOdd(v), rootOfScale),
+                       back);
+  }
+};
+
+inline VekStatus SqrtComplexDouble(const Vek64fc* src, Vek64fc* dst, size_t n) {
+  produceCompact<2>(OneSource<ComplexRoot, double>{reinterpret_cast<const double*>(src)},
+                    reinterpret_cast<double*>(dst), 2 * n, src == dst);
+  return vekStsOk;
+}
+
+// A part of a root below 2^8 that is no tie is 2^-27 away from one, times 2^s: double resolves it.
+struct ComplexIntegerRoots {
+  const int16_t* src;
+  double factor;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return inParts<double>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
+      const hn::Rebind<double, decltype(dPart)> dd;
+      const auto v = loadAsFloats(dd, src + k);
+      const auto root = complexRoot(dd, v, hn::DupOdd(v), hn::Set(dd, 1.0));
+      return hn::DemoteTo(dPart, nearestInt32(dd, hn::Mul(root, hn::Set(dd, factor))));
+    });
+  }
+};
+
+inline VekStatus SqrtComplexScaled(const Vek16sc* src, Vek16sc* dst, size_t n, int scaleFactor) {
+  if (scaleFactor < 0) {
+    for (size_t i = 0; i < n; ++i) dst[i] = enlargedComplexRoot(src[i], scaleFactor);
+    return vekStsOk;
+  }
+  const ComplexIntegerRoots body{reinterpret_cast<const int16_t*>(src),
+                                 scaleMultiplier<double>(scaleFactor)};
+  produceCompact<2>(body, reinterpret_cast<int16_t*>(dst), 2 * n, src == dst);
+  return vekStsOk;
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace veks
+HWY_AFTER_NAMESPACE();
+
+#endif
