@@ -33,10 +33,19 @@ HWY_INLINE V saturateTo(D d, V r) {
 }
 
 // h + l / 2 to nearest, ties to even, where l is the lowest bit of `half`; the others are ignored.
+// Half a unit above the greatest value saturates.
 template <class D, class V>
 HWY_INLINE V roundHalves(D d, V h, V half) {
   using T = hn::TFromD<D>;
-  return hn::Add(h, hn::And(hn::And(h, half), hn::Set(d, T{1})));
+  const V up = hn::And(hn::And(h, half), hn::Set(d, T{1}));
+  if constexpr (sizeof(T) <= 2) {
+    return hn::SaturatedAdd(h, up);
+  } else if constexpr (!std::is_signed_v<T>) {
+    return hn::Add(h, up);
+  } else {
+    const V rounded = hn::Add(h, up);
+    return hn::Add(rounded, hn::VecFromMask(d, hn::Gt(h, rounded)));
+  }
 }
 
 // (h + l / 2) / 2^bits likewise, 0 < bits <= the width of the lanes, or less than it if signed.

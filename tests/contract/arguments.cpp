@@ -85,10 +85,16 @@ void checkArguments(const Descriptor& function, Workspace& workspace, Report& re
     for (const Replacement& pointer : pointers) {
       for (const Replacement& length : lengths) {
         for (const Replacement& scalar : scalars) {
-          if (function.lengthFirst) {
-            checkReplacements(call, {&length, &pointer, &scalar}, report);
-          } else {
-            checkReplacements(call, {&pointer, &length, &scalar}, report);
+          switch (function.order) {
+            case CheckOrder::kPointersFirst:
+              checkReplacements(call, {&pointer, &length, &scalar}, report);
+              break;
+            case CheckOrder::kLengthFirst:
+              checkReplacements(call, {&length, &pointer, &scalar}, report);
+              break;
+            case CheckOrder::kScalarsFirst:
+              checkReplacements(call, {&scalar, &pointer, &length}, report);
+              break;
           }
         }
       }

@@ -101,12 +101,15 @@ struct Parameter {
 
 constexpr size_t kMaxParameters = 8;
 
+// What is checked before the rest, which keeps the order of pointers, length, scalars.
+enum class CheckOrder { kPointersFirst, kLengthFirst, kScalarsFirst };
+
 struct Descriptor {
   const char* name;
   VekStatus (*call)(const Value*);
   const Descriptor* outOfPlace;  // what an in-place function equals
   bool sameOnTargets;            // results equal to the last bit
-  bool lengthFirst;              // checked before the pointers
+  CheckOrder order;
   size_t count;
   Parameter parameters[kMaxParameters];
 };

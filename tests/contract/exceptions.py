@@ -1,6 +1,6 @@
 """What the headers do not tell the contract sweep. An entry that matches nothing is an error."""
 
-from rules import INT_MIN, LengthFirst, NoPartner, NotSwept, Span, Values
+from rules import INT_MAX, INT_MIN, LengthFirst, NoPartner, NotSwept, ScalarsFirst, Span, Values
 
 EXCEPTIONS = (
     NotSwept(
@@ -17,9 +17,40 @@ EXCEPTIONS = (
         r"veks(Add|Sub)_(32|64)fc(_I)?",
         reason="the real form on twice the length, after a check of the length",
     ),
+    ScalarsFirst(
+        r"veksDivC_(32|64)fc?(_I)?",
+        reason="the constant is checked before it is inverted, the rest by the multiplication",
+    ),
+    Values(
+        r"veksDivC_\w+",
+        parameters=r"val",
+        valid=(1, 3, 100, 2),
+        bad={"vekErrDivByZero": (0,)},
+        reason="divisors",
+    ),
+    Values(
+        r"veksDivCRev_\w+",
+        parameters=r"val",
+        valid=(1, 3, 100, 2),
+        reason="a zero dividend fills without a look at the source; see tests/vector/quotients_test.cpp",
+    ),
     NoPartner(
         r"veksAddProduct_\w+",
         reason="adds to its destination; there is no other form",
+    ),
+    NotSwept(
+        r"veksJoin_32f16s_D2L",
+        reason="an array of pointers; see tests/vector/join_test.cpp",
+    ),
+    NoPartner(
+        r"veks(AddC|SubC|MulC)_16s_I|veksAdd_16s32s_I",
+        reason="there is no out-of-place form without a scale factor",
+    ),
+    Values(
+        r".*_I?Sfs",
+        parameters=r"scaleFactor",
+        valid=(0, 1, 3, -2, INT_MIN, INT_MAX),
+        reason="every value is valid",
     ),
     Values(
         r"veks[LR]ShiftC_\w+",

@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 from declarations import DeclarationError, parse_files
-from rules import LengthFirst, NoPartner, NotSwept, Span, TargetsDiffer, Values
+from rules import LengthFirst, NoPartner, NotSwept, ScalarsFirst, Span, TargetsDiffer, Values
 
 SAMPLE = r"Vek\d+[usf]c?"
 ROLES = (
@@ -87,7 +87,7 @@ def partner_index(swept, table, book):
     """Gives the position of the out-of-place form of `swept`, or None if there need not be one."""
     if not swept.is_in_place() or book.find(NoPartner, swept.function):
         return None
-    name = re.sub(r"_I(?=_|$)", "", swept.name)
+    name = re.sub(r"_I(?=_|$)|(?<=_)I(?=Sfs$)", "", swept.name)
     for index, other in enumerate(table):
         if other.name == name and other is not swept and other.inputs() == swept.inputs():
             return index
@@ -111,6 +111,14 @@ def parameter_text(swept, position, book):
     return f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
 
 
+def check_order(swept, book):
+    if book.find(LengthFirst, swept.function):
+        return "CheckOrder::kLengthFirst"
+    if book.find(ScalarsFirst, swept.function):
+        return "CheckOrder::kScalarsFirst"
+    return "CheckOrder::kPointersFirst"
+
+
 def descriptor_text(swept, table, book):
     partner = partner_index(swept, table, book)
     fields = [
@@ -118,7 +126,7 @@ def descriptor_text(swept, table, book):
         f"call<{swept.name}>",
         "nullptr" if partner is None else f"&kFunctions[{partner}]",
         "false" if book.find(TargetsDiffer, swept.function) else "true",
-        "true" if book.find(LengthFirst, swept.function) else "false",
+        check_order(swept, book),
         str(len(swept.roles)),
     ]
     parameters = [parameter_text(swept, position, book) for position in range(len(swept.roles))]

@@ -28,6 +28,7 @@ TEST(Planted, EveryFaultIsReportedAndNothingElse) {
       {"veksPlantedPointerFirst_8u", {Kind::kStatus}},
       {"veksPlantedAnyShift_16u", {Kind::kStatus}},
       {"veksPlantedShiftFirst_16u", {Kind::kStatus}},
+      {"veksPlantedShiftAfter_16u", {Kind::kStatus}},
       {"veksPlantedFails_8u", {Kind::kStatus}},
       {"veksPlantedAlignment_64f", {Kind::kPlacement, Kind::kInPlace}},
       {"veksPlantedNeighbour_16s", {Kind::kPlacement, Kind::kInPlace}},

@@ -4,6 +4,7 @@ from collections.abc import Mapping, Sequence
 from dataclasses import dataclass, field
 
 INT_MIN = -(2**31)
+INT_MAX = 2**31 - 1
 
 
 @dataclass(frozen=True)
@@ -32,6 +33,11 @@ class TargetsDiffer(Rule):
 @dataclass(frozen=True)
 class LengthFirst(Rule):
     """The length is checked before the pointers."""
+
+
+@dataclass(frozen=True)
+class ScalarsFirst(Rule):
+    """Scalars are checked before the pointers."""
 
 
 @dataclass(frozen=True, kw_only=True)

@@ -81,7 +81,7 @@ struct ComplexQuotientsInDouble {
       const hn::Rebind<double, decltype(dPart)> dd;
       const auto a = hn::PromoteTo(dd, hn::LoadU(dPart, divisors + k));
       const auto b = hn::PromoteTo(dd, hn::LoadU(dPart, dividends + k));
-      return hn::DemoteTo(dPart, plainComplexQuotient(dd, a, b, *zeroSeen));
+      return demoteToFloat(dPart, plainComplexQuotient(dd, a, b, *zeroSeen));
     });
   }
 };
@@ -117,7 +117,8 @@ struct ComplexIntegerQuotients {
     return inParts<double>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
       const hn::Rebind<double, decltype(dPart)> dd;
       const auto b = loadAsFloats(dd, dividends + k);
-      auto a = hn::OddEven(hn::Set(dd, static_cast<double>(divisor.im)), hn::Set(dd, static_cast<double>(divisor.re)));
+      auto a = hn::OddEven(hn::Set(dd, static_cast<double>(divisor.im)),
+                           hn::Set(dd, static_cast<double>(divisor.re)));
       if (divisors != nullptr) a = loadAsFloats(dd, divisors + k);
       const auto quotient = plainComplexQuotient(dd, a, b, *zeroSeen);
       // 0 / 0 is the only NaN.

@@ -107,7 +107,7 @@ struct ComplexFloatRoots {
     return inParts<double>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
       const hn::Rebind<double, decltype(dPart)> dd;
       const auto v = hn::PromoteTo(dd, hn::LoadU(dPart, src + k));
-      return hn::DemoteTo(dPart, complexRoot(dd, v, hn::DupOdd(v), hn::Set(dd, 1.0)));
+      return demoteToFloat(dPart, complexRoot(dd, v, hn::DupOdd(v), hn::Set(dd, 1.0)));
     });
   }
 };
@@ -126,7 +126,8 @@ struct ComplexRoot {
     const auto one = hn::BitCast(di, hn::Set(d, 1.0));
     const auto inverse = hn::BitCast(di, inverseMagnitude(d, v));
     // With its bias of 1023, an even exponent is odd.
-    const auto scale = hn::Or(inverse, hn::Set(di, kExponentOne));
+    const auto unit = hn::Set(di, kExponentOne);
+    const auto scale = hn::Or(hn::Sub(inverse, unit), unit);
     const auto halfExponent = hn::ShiftRight<1>(hn::Sub(scale, one));
     const V rootOfScale = hn::BitCast(d, hn::Add(one, halfExponent));
     const V back = hn::BitCast(d, hn::Sub(one, halfExponent));

@@ -191,6 +191,15 @@ VekStatus veksPlantedShiftFirst_16u(const Vek16u* pSrc, int val, Vek16u* pDst, i
   return veksPlantedAnyShift_16u(pSrc, val, pDst, len);
 }
 
+VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
+  return val < 0 ? vekErrShift : veksPlantedAnyShift_16u(pSrc, val, pDst, len);
+}
+
+VekStatus veksPlantedShiftAfter_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
+  const VekStatus status = checkVectors(len, pSrc, pDst);
+  return status != vekStsOk ? status : veksPlantedShiftBefore_16u(pSrc, val, pDst, len);
+}
+
 VekStatus veksPlantedFails_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
   const VekStatus status = checkedCopy(pSrc, pDst, len);
   return status == vekStsOk && len == 13 ? vekErrUnknown : status;

@@ -17,6 +17,7 @@ VEKS_API VekStatus veksPlantedSet_64fc(Vek64fc val, Vek64fc* pDst, int len);
 VEKS_API VekStatus veksPlantedSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum);
 VEKS_API VekStatus veksPlantedNegate_32s_I(Vek32s* pSrcDst, int len);
 VEKS_API VekStatus veksPlantedLengthFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
+VEKS_API VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedLastBits_32f(const Vek32f* pSrc, Vek32f* pDst, int len);
 
 // With accesses outside of the vectors or to a source.
@@ -36,6 +37,7 @@ VEKS_API VekStatus veksPlantedSizeFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int l
 VEKS_API VekStatus veksPlantedPointerFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
 VEKS_API VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedShiftFirst_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
+VEKS_API VekStatus veksPlantedShiftAfter_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedFails_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
 
 // With results that depend on what they must not.
