@@ -48,26 +48,48 @@ HWY_INLINE V roundHalves(D d, V h, V half) {
   }
 }
 
+// v + 1 where the mask is set.
+template <class D, class M, class V>
+HWY_INLINE V incrementWhere(D d, M mask, V v) {
+#if HWY_TARGET <= HWY_AVX3
+  return hn::IfThenElse(mask, hn::Add(v, hn::Set(d, hn::TFromD<D>{1})), v);
+#else
+  return hn::Sub(v, hn::VecFromMask(d, mask));
+#endif
+}
+
 // (h + l / 2) / 2^bits likewise, 0 < bits <= the width of the lanes, or less than it if signed.
-template <class D, class V>
+// With headroom, h + 2^(bits - 1) does not overflow.
+template <bool kHeadroom = false, class D, class V>
 HWY_INLINE V roundShift(D d, V h, V half, int bits) {
   using T = hn::TFromD<D>;
   using Unsigned = std::make_unsigned_t<T>;
   const auto middle = static_cast<Unsigned>(Unsigned{1} << (bits - 1));
-  const V mask = hn::Set(d, static_cast<T>(static_cast<Unsigned>(middle - 1 + middle)));
+  const V one = hn::Set(d, T{1});
   // Unsigned lanes of 32 bits may be shifted by all of them, which not every target can.
   const V quotient = std::is_same_v<T, uint32_t>
                          ? hn::ShiftRight<1>(hn::ShiftRightSame(h, bits - 1))
                          : hn::ShiftRightSame(h, bits);
-  const V remainder = hn::And(h, mask);
-  const V odd = hn::And(hn::Or(quotient, half), hn::Set(d, T{1}));
-  if constexpr (std::is_signed_v<T>) {
-    const V threshold = hn::Sub(hn::Set(d, static_cast<T>(middle)), odd);
-    return hn::Sub(quotient, hn::VecFromMask(d, hn::Gt(remainder, threshold)));
+  const V quotientOrHalf = hn::Or(quotient, half);
+  if constexpr (std::is_same_v<T, int16_t>) {
+    // (h * 2^(15 - bits) + 2^14) >> 15 rounds ties up; one less, they go down.
+    const V below = hn::SaturatedSub(h, hn::AndNot(quotientOrHalf, one));
+    return hn::MulFixedPoint15(below, hn::Set(d, static_cast<T>(1 << (15 - bits))));
+  } else if constexpr (kHeadroom) {
+    const V addend = hn::Add(hn::Set(d, static_cast<T>(middle - 1)), hn::And(quotientOrHalf, one));
+    return hn::ShiftRightSame(hn::Add(h, addend), bits);
   } else {
-    // Unsigned lanes have a maximum, but no comparison.
-    const V least = hn::Sub(hn::Set(d, static_cast<T>(middle + 1)), odd);
-    return hn::Sub(quotient, hn::VecFromMask(d, hn::Eq(hn::Max(remainder, least), remainder)));
+    const auto mask = static_cast<Unsigned>(middle - 1 + middle);
+    const V remainder = hn::And(h, hn::Set(d, static_cast<T>(mask)));
+    const V odd = hn::And(quotientOrHalf, one);
+    if constexpr (std::is_signed_v<T> || HWY_TARGET <= HWY_AVX3) {
+      const V threshold = hn::Sub(hn::Set(d, static_cast<T>(middle)), odd);
+      return incrementWhere(d, hn::Gt(remainder, threshold), quotient);
+    } else {
+      // Here unsigned lanes have a maximum, but no comparison.
+      const V least = hn::Sub(hn::Set(d, static_cast<T>(middle + 1)), odd);
+      return incrementWhere(d, hn::Eq(hn::Max(remainder, least), remainder), quotient);
+    }
   }
 }
 
@@ -90,15 +112,16 @@ HWY_INLINE V shiftLeftSaturated(D d, V r, int bits) {
 }
 
 // scaleTo() for lanes of Wide, the path a constant: results in the range of Dst, but for the paths
-// of s >= 0, whose results a saturating narrowing or saturateTo() must follow.
-template <ScalePath path, class Dst, class D, class V>
+// of s >= 0, whose results a saturating narrowing or saturateTo() must follow. With headroom, |r|
+// is at most a quarter of what the lanes hold.
+template <ScalePath path, class Dst, bool kHeadroom = false, class D, class V>
 HWY_INLINE V scaleTo(D d, V r, int bits) {
   if constexpr (path == ScalePath::kSaturate) {
     return r;
   } else if constexpr (path == ScalePath::kHalve) {
     return roundHalves(d, hn::ShiftRight<1>(r), r);
   } else if constexpr (path == ScalePath::kRound) {
-    return roundShift(d, r, hn::Zero(d), bits);
+    return roundShift<kHeadroom>(d, r, hn::Zero(d), bits);
   } else if constexpr (path == ScalePath::kShiftLeft) {
     return shiftLeftSaturated<Dst>(d, r, bits);
   } else {

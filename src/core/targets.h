@@ -10,10 +10,10 @@
 // carry the fix for the vectoriser fault behind that list. No kernel needs AES or CLMUL.
 #define HWY_BROKEN_EMU128 0
 #define HWY_DISABLE_PCLMUL_AES 1
-#ifdef VEKS_ENABLE_AVX512
-#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3_DL)
-#else
+#ifdef VEKS_DISABLE_AVX512
 #define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3 | HWY_AVX3_DL)
+#else
+#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3_DL)
 #endif
 #include <hwy/detect_targets.h>
 
@@ -66,8 +66,8 @@ int targetCount();
 const char* targetName(int target);
 void useTarget(int target);
 
-// A kernel's instances for the targets of the build. The best target is compared with, not looked
-// up: the call is then a direct jump.
+// A kernel's instances for the targets of the build. The two best targets are compared with, not
+// looked up: the call is then a direct jump.
 template <auto first, auto... rest>
 struct Kernel {
   using Pointer = decltype(first);
@@ -77,7 +77,9 @@ struct Kernel {
   template <class... Args>
   VekStatus operator()(Args... args) const {
     constexpr Pointer kBest = kInstances[kTargets - 1];
+    constexpr Pointer kSecond = kInstances[kTargets > 1 ? kTargets - 2 : 0];
     if (__builtin_expect(activeTarget == kTargets - 1, 1)) return kBest(args...);
+    if (__builtin_expect(activeTarget == kTargets - 2, 1)) return kSecond(args...);
     return kInstances[activeTarget](args...);
   }
 };

@@ -21,7 +21,7 @@ std::vector<T> operands(bool second) {
   std::vector<T> all;
   for (int i = 0; i < 65536 && sizeof(T) <= 2; ++i) {
     const int value = sizeof(T) == 1 && second ? i >> 8 : i;
-    all.push_back(static_cast<T>(sizeof(T) == 2 && second ? random() : value));
+    all.push_back(sizeof(T) == 2 && second ? static_cast<T>(random()) : static_cast<T>(value));
   }
   if (sizeof(T) == 2 && second) {
     // The limits meet each other: elements 0x7FFF, 0x8000 and 0xFFFF of the first operand.

@@ -14,11 +14,11 @@ namespace veks {
 namespace HWY_NAMESPACE {
 
 // Both halves of a pair of wide lanes, scaled and narrowed to T.
-template <ScalePath path, class T, class V>
+template <ScalePath path, class T, bool kHeadroom, class V>
 HWY_INLINE auto narrowScaled(Pair<V> wide, int bits) {
   const hn::ScalableTag<typename Widening<T>::Wide> dw;
-  return Widening<T>::narrow(
-      Pair<V>{scaleTo<path, T>(dw, wide.first, bits), scaleTo<path, T>(dw, wide.second, bits)});
+  return Widening<T>::narrow(Pair<V>{scaleTo<path, T, kHeadroom>(dw, wide.first, bits),
+                                     scaleTo<path, T, kHeadroom>(dw, wide.second, bits)});
 }
 
 template <>
@@ -32,7 +32,8 @@ struct ScaledOperation<Mul> {
     using T = hn::TFromD<D>;
     const auto scaledProduct = [bits](auto fullA, auto fullB) HWY_ATTR {
       const hn::ScalableTag<T> full;
-      return narrowScaled<path, T>(Widening<T>::multiply(full, fullA, fullB), bits);
+      return narrowScaled<path, T, std::is_signed_v<T>>(Widening<T>::multiply(full, fullA, fullB),
+                                                        bits);
     };
     return onFullVectors(d, scaledProduct, a, b);
   }
@@ -98,7 +99,7 @@ struct ScaledOperation<AddProduct> {
       const auto product = Widening<T>::multiply(full, fullA, fullB);
       const auto old = Widening<T>::promote(full, fullSum);
       using Wide = decltype(product.first);
-      return narrowScaled<path, T>(
+      return narrowScaled<path, T, false>(
           Pair<Wide>{hn::Add(product.first, old.first), hn::Add(product.second, old.second)}, bits);
     };
     return onFullVectors(d, scaledSum, a, b, sum);
@@ -152,7 +153,8 @@ struct ScaledOperation<MulUnsigned> : ScaledOperation<Mul> {
       const hn::ScalableTag<int16_t> full;
       const auto high =
           hn::Add(hn::MulHigh(fullA, fullB), hn::And(hn::BroadcastSignBit(fullA), fullB));
-      return narrowScaled<path, int16_t>(zip<int32_t>(full, hn::Mul(fullA, fullB), high), bits);
+      return narrowScaled<path, int16_t, false>(zip<int32_t>(full, hn::Mul(fullA, fullB), high),
+                                                bits);
     };
     return onFullVectors(d, scaledProduct, a, b);
   }
