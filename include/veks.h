@@ -13,6 +13,7 @@
 #include "veks/status.h"
 #include "veks/types.h"
 #include "veks/vector/arithmetic.h"
+#include "veks/vector/conversion.h"
 #include "veks/vector/initialisation.h"
 #include "veks/vector/logical.h"
 

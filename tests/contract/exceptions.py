@@ -13,6 +13,18 @@ EXCEPTIONS = (
         per_len=3,
         reason="a packed sample is three elements of Vek8u",
     ),
+    Span(
+        r"veksConvert_24[su]32[suf]",
+        parameters=r"pSrc",
+        per_len=3,
+        reason="a packed sample is three elements of Vek8u",
+    ),
+    Span(
+        r"veksConvert_32[suf]24[su]_Sfs",
+        parameters=r"pDst",
+        per_len=3,
+        reason="a packed sample is three elements of Vek8u",
+    ),
     LengthFirst(
         r"veks(Add|Sub)_(32|64)fc(_I)?",
         reason="the real form on twice the length, after a check of the length",
@@ -49,8 +61,8 @@ EXCEPTIONS = (
     Values(
         r".*_I?Sfs",
         parameters=r"scaleFactor",
-        valid=(0, 1, 3, -2, INT_MIN, INT_MAX),
-        reason="every value is valid",
+        valid=(0, 1, 3, -2, -9, 60, -60, 128, -128, 1100, INT_MIN, INT_MAX),
+        reason="every value is valid; these take all paths",
     ),
     Values(
         r"veks[LR]ShiftC_\w+",
@@ -58,5 +70,11 @@ EXCEPTIONS = (
         valid=range(41),
         bad={"vekErrShift": (-1, INT_MIN)},
         reason="bit counts; those beyond the element width are valid",
+    ),
+    Values(
+        r"veksConvert_\w+",
+        parameters=r"rndMode",
+        valid=(0, 1, INT_MIN),
+        reason="0 truncates, every other value rounds to nearest",
     ),
 )

@@ -7,6 +7,7 @@
 #define VEKS_VECTOR_ARITHMETIC_QUOTIENTS_INL_H
 #endif
 
+#include "core/convert-inl.h"
 #include "core/loops-inl.h"
 #include "core/round-inl.h"
 #include "core/widen-inl.h"
@@ -62,24 +63,6 @@ struct DivideToInteger {
     return nearestInt32(d, hn::Min(hn::Max(defined, min), max));
   }
 };
-
-// Loads integers as lanes of float or double.
-template <class D, class S>
-HWY_INLINE hn::Vec<D> loadAsFloats(D d, const S* src) {
-  const hn::Rebind<int32_t, D> di;
-  const auto integers = [&]() HWY_ATTR {
-    if constexpr (sizeof(S) == 4) {
-      return hn::LoadU(di, src);
-    } else {
-      return hn::PromoteTo(di, hn::LoadU(hn::Rebind<S, D>(), src));
-    }
-  };
-  if constexpr (sizeof(hn::TFromD<D>) == 4) {
-    return hn::ConvertTo(d, integers());
-  } else {
-    return hn::PromoteTo(d, integers());
-  }
-}
 
 // Integers of 32 bits in the range of T as T.
 template <class D, class V>
