@@ -11,8 +11,8 @@ constexpr double kBatchNs = 50e3;
 
 int roundsForAll = 0;
 
-std::vector<void (*)()>& suites() {
-  static std::vector<void (*)()> list;
+std::vector<std::function<void()>>& suites() {
+  static std::vector<std::function<void()>> list;
   return list;
 }
 
@@ -36,15 +36,22 @@ size_t calibrate(const Contestant& contestant) {
   }
 }
 
+bool agree(const Contestant& contestant, const std::vector<unsigned char>& expected,
+           const unsigned char* got) {
+  if (contestant.agrees) return contestant.agrees(expected.data(), got, expected.size());
+  return std::memcmp(expected.data(), got, expected.size()) == 0;
+}
+
 // The first contestant whose output is not that of the library; null if all agree.
 const Contestant* findDifferent(const Case& c) {
   std::vector<unsigned char> expected;
   for (const Contestant& contestant : c.contestants) {
+    if (contestant.isYardstick) continue;
     c.prepare();
     contestant.run(1);
     if (expected.empty()) {
       expected.assign(c.output, c.output + c.outputBytes);
-    } else if (std::memcmp(expected.data(), c.output, c.outputBytes) != 0) {
+    } else if (!agree(contestant, expected, c.output)) {
       return &contestant;
     }
   }
@@ -100,6 +107,10 @@ void compare(benchmark::State& state, const Case& c) {
     state.counters[name + "_ns"] = median(samples[i]);
     if (i == 0) continue;
     std::vector<double> rounds = ratios(samples[i], samples[0]);
+    if (c.contestants[i].isYardstick) {
+      state.counters[name + "_ratio"] = median(rounds);
+      continue;
+    }
     if (lowest.empty() || median(rounds) < median(lowest)) {
       lowest = std::move(rounds);
       state.SetLabel(name);
@@ -123,12 +134,12 @@ void setRounds(int rounds) {
   roundsForAll = rounds;
 }
 
-Suite::Suite(void (*addCases)()) {
-  suites().push_back(addCases);
+Suite::Suite(std::function<void()> addCases) {
+  suites().push_back(std::move(addCases));
 }
 
 void addAllSuites() {
-  for (const auto addCases : suites()) addCases();
+  for (const auto& addCases : suites()) addCases();
 }
 
 }  // namespace veks::bench

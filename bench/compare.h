@@ -1,6 +1,5 @@
 // Comparisons of a library call with peers that do the same work. A suite of them is a .cpp file
-// that ends in a Suite object; one whose peer may be missing is added to the build where it is
-// found.
+// that ends in a Suite object.
 //
 // The contestants run on the same data in the same process. A round times one batch of each; a
 // batch repeats the call until it takes about 50 us, or makes one call if that takes longer, and
@@ -8,7 +7,8 @@
 //
 // Time per call is the median over the rounds. The ratio to a peer (above 1: the library is faster)
 // is the median of the ratios within each round, since what disturbs the machine for longer than a
-// round then cancels out. The ratio of a comparison is the lowest of its peers.
+// round then cancels out. The ratio of a comparison is the lowest of its peers. A yardstick is
+// timed like a peer, but does other work: its ratio is reported apart.
 #ifndef VEKS_BENCH_COMPARE_H
 #define VEKS_BENCH_COMPARE_H
 
@@ -22,9 +22,15 @@
 
 namespace veks::bench {
 
+// Whether so many bytes of output are as good as those of the library.
+using Agreement =
+    std::function<bool(const unsigned char* expected, const unsigned char* got, size_t bytes)>;
+
 struct Contestant {
   std::string name;
   std::function<void(size_t count)> run;  // makes the call `count` times
+  Agreement agrees = nullptr;             // null: every byte must be the same
+  bool isYardstick = false;               // its output is of no interest
 };
 
 // All functions are called through a pointer that the compiler knows nothing about: it can neither
@@ -41,7 +47,7 @@ Contestant contestant(std::string name, R (*function)(P...), A... args) {
 struct Case {
   std::vector<Contestant> contestants;  // the library, then its peers
   std::function<void()> prepare;        // gives the output its content before a call
-  const unsigned char* output;          // must be the same, byte for byte, after each contestant
+  const unsigned char* output;          // compared after a call of each contestant
   size_t outputBytes;
   size_t trafficBytes;  // read and written by one call
 };
@@ -56,8 +62,8 @@ double quantile(std::vector<double> samples, double q);
 double median(const std::vector<double>& samples);
 
 // Checks the results, runs the rounds and reports the counters: NAME_ns of each contestant,
-// bytes_per_second of the library, ratio and its spread (interquartile range / median). The label
-// is the peer that the ratio refers to.
+// bytes_per_second of the library, ratio and its spread (interquartile range / median), and
+// NAME_ratio of a yardstick. The label is the peer that the ratio refers to.
 void compare(benchmark::State& state, const Case& c);
 
 // Registers a benchmark of `rounds` rounds, unless setRounds() was called.
@@ -67,7 +73,7 @@ void setRounds(int rounds);
 
 // A static object of this type makes main() call addCases, after the command line was read.
 struct Suite {
-  explicit Suite(void (*addCases)());
+  explicit Suite(std::function<void()> addCases);
 };
 void addAllSuites();
 

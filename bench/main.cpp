@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "compare.h"
+#include "comparisons.h"
 #include "veks.h"
 
 namespace {
@@ -62,5 +62,7 @@ int main(int argc, char** argv) {
   benchmark::AddCustomContext("veks_target", vekGetTargetName());
   benchmark::AddCustomContext("core", std::to_string(core));
   veks::bench::addAllSuites();
+  const std::string idle = veks::bench::functionsWithoutSuite();
+  if (!idle.empty()) benchmark::AddCustomContext("peers_without_suite", idle);
   return benchmark::RunSpecifiedBenchmarks() > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

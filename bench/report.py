@@ -3,7 +3,8 @@
 
 Times are medians in ns per call; GB/s counts the bytes that veks reads and writes. The ratio is the
 time of the best peer / the time of veks, so above 1 veks is faster; "+-" is half the interquartile
-range of that ratio over the rounds.
+range of that ratio over the rounds. "stream" is the same ratio for a loop that only moves as many
+bytes. A peer with "~" rounds differently: its results are close, not the same.
 """
 
 import argparse
@@ -14,6 +15,7 @@ import sys
 
 MARK_BELOW = 0.95
 OWN_COUNTERS = {"veks_ns", "overhead_ns"}
+YARDSTICK = "stream"
 
 
 def number(ns):
@@ -33,7 +35,8 @@ def print_table(header, rows, text_columns):
 
 
 def peers_of(entry):
-    return [k.removesuffix("_ns") for k in entry if k.endswith("_ns") and k not in OWN_COUNTERS]
+    names = [k.removesuffix("_ns") for k in entry if k.endswith("_ns") and k not in OWN_COUNTERS]
+    return [name for name in names if name != YARDSTICK]
 
 
 def parts_of(entry):
@@ -50,18 +53,27 @@ def comparison_row(entry, peers):
         *parts_of(entry),
         number(entry["veks_ns"]),
         f"{entry['bytes_per_second'] / 1e9:.1f}",
-        *(number(entry[peer + "_ns"]) for peer in peers),
+        *(number(entry[peer + "_ns"]) if peer + "_ns" in entry else "" for peer in peers),
         entry["label"],
         f"{entry['ratio']:.2f}",
         f"{entry['spread'] * entry['ratio'] / 2:.2f}",
+        f"{entry[YARDSTICK + '_ratio']:.2f}" if YARDSTICK + "_ratio" in entry else "",
         "LOW" if is_low(entry) else "",
     ]
 
 
+def has_loop(entry):
+    """Functions whose peers are those of the C library stand in tables of their own."""
+    return bool({"loop", "loop~"} & set(peers_of(entry)))
+
+
 def print_comparisons(entries):
-    for peers, group in itertools.groupby(entries, peers_of):
-        header = ["function", "size", "alignment", "veks", "GB/s", *peers, "best peer", "ratio", "+-"]
-        print_table(header + [""], [comparison_row(entry, peers) for entry in group], 3)
+    for _, group in itertools.groupby(entries, has_loop):
+        group = list(group)
+        peers = list(dict.fromkeys(peer for entry in group for peer in peers_of(entry)))
+        header = ["function", "size", "alignment", "veks", "GB/s", *peers, "best peer", "ratio"]
+        rows = [comparison_row(entry, peers) for entry in group]
+        print_table([*header, "+-", YARDSTICK, ""], rows, 3)
     if not entries:
         return
     lowest = min(entries, key=lambda entry: entry["ratio"])
@@ -74,18 +86,19 @@ def print_comparisons(entries):
 
 
 def print_summary(entries):
-    """Prints one Markdown row per function and alignment: GB/s and ratio for each size."""
-    sizes = list(dict.fromkeys(parts_of(entry)[1] for entry in entries))
-    cells = {}
+    """Prints Markdown tables, one for functions of the same sizes: GB/s and ratio for each size."""
+    rows = {}
     for entry in entries:
         function, size, alignment = parts_of(entry)
         text = f"{entry['bytes_per_second'] / 1e9:.0f} ({entry['ratio']:.2f})"
-        cells.setdefault((function, alignment), {})[size] = text
-    print("| function | vectors |" + "".join(f" {size} |" for size in sizes))
-    print("|---|---|" + "---|" * len(sizes))
-    for (function, alignment), row in cells.items():
-        texts = "".join(f" {row.get(size, '')} |" for size in sizes)
-        print(f"| `{function}` | {alignment} |{texts}")
+        rows.setdefault((function, alignment), {})[size] = text
+    for sizes in dict.fromkeys(tuple(row) for row in rows.values()):
+        print("| function | vectors |" + "".join(f" {size} |" for size in sizes))
+        print("|---|---|" + "---|" * len(sizes))
+        for (function, alignment), row in rows.items():
+            if tuple(row) == sizes:
+                print(f"| `{function}` | {alignment} | " + " | ".join(row.values()) + " |")
+        print()
 
 
 def print_overheads(entries):

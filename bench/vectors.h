@@ -1,20 +1,9 @@
-// Comparisons of functions on vectors: every size and placement, the arguments taken from the
-// signature.
+// The vectors that comparisons run on.
 #ifndef VEKS_BENCH_VECTORS_H
 #define VEKS_BENCH_VECTORS_H
 
 #include <cstddef>
-#include <functional>
-#include <tuple>
-#include <type_traits>
-#include <utility>
-#include <vector>
-
-#include "compare.h"
-#include "veks.h"
-
-// The name of a function and the function.
-#define VEKS_BENCH_NAMED(function) #function, function
+#include <cstdint>
 
 namespace veks::bench {
 
@@ -23,29 +12,69 @@ namespace veks::bench {
 // it one element above or below.
 enum class Placement { kAligned, kOffset, kUp, kDown };
 
+// Bytes of an element of each vector; 0 for a source that a function does not have.
+struct Elements {
+  size_t src1 = 0;
+  size_t src2 = 0;
+  size_t dst = 0;
+};
+
+// The content of a vector is random, but for the exponents of float and double values among it,
+// which are normal numbers of a magnitude below 2. A pattern of 64 bits narrows that: a bit not in
+// `keep` is 0, one in `set` is 1.
+struct Pattern {
+  uint64_t keep = ~uint64_t{0};
+  uint64_t set = 0;
+};
+
+// One bit, counted from the lowest one, in every element of up to eight bytes.
+constexpr uint64_t bitOfEach(size_t elementBytes, size_t bit) {
+  uint64_t bits = 0;
+  for (size_t at = bit; at < 64; at += 8 * elementBytes) bits |= uint64_t{1} << at;
+  return bits;
+}
+
+template <class T>
+constexpr Pattern notNegative() {
+  return {~bitOfEach(sizeof(T), 8 * sizeof(T) - 1), 0};
+}
+
+template <class T>
+constexpr Pattern notZero() {
+  return {~uint64_t{0}, bitOfEach(sizeof(T), 0)};
+}
+
+// The contents of the sources; of the destination too, which is an input in place.
+struct Content {
+  Pattern src1;
+  Pattern src2;
+  Pattern dst;
+};
+
 // Two sources and a destination of `len` elements, in memory that all cases share. Making it fills
 // the sources.
 class Vectors {
  public:
-  Vectors(size_t bytes, size_t elementBytes, Placement placement);
+  Vectors(int len, const Elements& elements, Placement placement, const Content& content);
 
-  template <class T>
-  const T* src1() const {
-    return reinterpret_cast<const T*>(src1_);
+  const unsigned char* src1() const {
+    return src1_;
   }
-  template <class T>
-  const T* src2() const {
-    return reinterpret_cast<const T*>(src2_);
+  const unsigned char* src2() const {
+    return src2_;
   }
-  template <class T>
-  T* dst() const {
-    return reinterpret_cast<T*>(dst_);
+  unsigned char* dst() const {
+    return dst_;
   }
   int len() const {
     return len_;
   }
+  const Elements& elements() const {
+    return elements_;
+  }
+  // Of the destination.
   size_t bytes() const {
-    return bytes_;
+    return static_cast<size_t>(len_) * elements_.dst;
   }
 
   // All that a call may change: the destination and, where it overlaps, the source.
@@ -59,91 +88,14 @@ class Vectors {
 
  private:
   int len_;
-  size_t bytes_;
+  Elements elements_;
+  Pattern outputPattern_;
   unsigned char* src1_;
   unsigned char* src2_;
   unsigned char* dst_;
   unsigned char* output_;
   size_t outputBytes_;
 };
-
-constexpr int kShift = 3;
-constexpr unsigned char kConstantByte = 0x5A;  // the first one of every constant
-
-// The constant of a function: a shift count or a value whose bytes all differ.
-template <class C>
-C constant() {
-  if constexpr (std::is_same_v<C, int>) {
-    return kShift;
-  } else {
-    C value;
-    unsigned char* const bytes = reinterpret_cast<unsigned char*>(&value);
-    for (size_t i = 0; i < sizeof(C); ++i) bytes[i] = static_cast<unsigned char>(kConstantByte + i);
-    return value;
-  }
-}
-
-// Gives a contestant for the vectors of a case.
-using Peer = std::function<Contestant(const Vectors&)>;
-
-template <class R, class T>
-Peer peer(const char* name, R (*function)(const T*, const T*, T*, int)) {
-  return [=](const Vectors& v) {
-    return contestant(name, function, v.src1<T>(), v.src2<T>(), v.dst<T>(), v.len());
-  };
-}
-
-template <class R, class T, class C>
-Peer peer(const char* name, R (*function)(const T*, C, T*, int)) {
-  return [=](const Vectors& v) {
-    return contestant(name, function, v.src1<T>(), constant<C>(), v.dst<T>(), v.len());
-  };
-}
-
-template <class R, class T>
-Peer peer(const char* name, R (*function)(const T*, T*, int)) {
-  return [=](const Vectors& v) {
-    return contestant(name, function, v.src1<T>(), v.dst<T>(), v.len());
-  };
-}
-
-template <class R, class C, class T>
-Peer peer(const char* name, R (*function)(C, T*, int)) {
-  return [=](const Vectors& v) {
-    return contestant(name, function, constant<C>(), v.dst<T>(), v.len());
-  };
-}
-
-template <class R, class T>
-Peer peer(const char* name, R (*function)(T*, int)) {
-  return [=](const Vectors& v) { return contestant(name, function, v.dst<T>(), v.len()); };
-}
-
-// How often one call goes over a vector, reading or writing.
-enum Traffic : size_t { kWrite = 1, kReadWrite = 2, kTwoReadsWrite = 3, kThreeReadsWrite = 4 };
-
-// Registers NAME/SIZE/PLACEMENT for all sizes. The library is the first contestant.
-void addVectorCases(const char* name, Traffic traffic, const std::vector<Peer>& contestants,
-                    size_t elementBytes, const std::vector<Placement>& placements);
-
-// Bytes of an element of the destination, the last parameter but one.
-template <class... P>
-constexpr size_t kElementBytes =
-    sizeof(std::remove_pointer_t<std::tuple_element_t<sizeof...(P) - 2, std::tuple<P...>>>);
-
-template <class... P>
-void compareVectors(const char* name, VekStatus (*function)(P...), Traffic traffic,
-                    std::vector<Peer> peers, size_t elementBytes = kElementBytes<P...>) {
-  peers.insert(peers.begin(), peer("veks", function));
-  addVectorCases(name, traffic, peers, elementBytes, {Placement::kAligned, Placement::kOffset});
-}
-
-template <class... P>
-void compareOverlapping(const char* name, VekStatus (*function)(P...), Traffic traffic,
-                        std::vector<Peer> peers) {
-  peers.insert(peers.begin(), peer("veks", function));
-  addVectorCases(name, traffic, peers, kElementBytes<P...>, {Placement::kUp, Placement::kDown});
-}
 
 }  // namespace veks::bench
 

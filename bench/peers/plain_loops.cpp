@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
+#include <type_traits>
 #include <utility>
 
 #include "veks/types.h"
@@ -10,22 +12,61 @@ namespace veks::bench::plain {
 namespace {
 
 template <class T>
+constexpr bool kIsComplex = std::is_class_v<T>;
+
+template <class T>
 T apply(Add, T a, T b) {
-  return a + b;
+  if constexpr (kIsComplex<T>) {
+    return {a.re + b.re, a.im + b.im};
+  } else {
+    return a + b;
+  }
 }
 
-Vek32fc apply(Add, Vek32fc a, Vek32fc b) {
-  return {a.re + b.re, a.im + b.im};
+template <class T>
+T apply(SubC, T a, T b) {
+  if constexpr (kIsComplex<T>) {
+    return {a.re - b.re, a.im - b.im};
+  } else {
+    return a - b;
+  }
 }
 
 template <class T>
 T apply(Sub, T a, T b) {
-  return b - a;
+  return apply(SubC(), b, a);
 }
 
 template <class T>
 T apply(Mul, T a, T b) {
-  return a * b;
+  if constexpr (kIsComplex<T>) {
+    return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
+  } else {
+    return a * b;
+  }
+}
+
+Vek32fc apply(Mul, Vek32f a, Vek32fc b) {
+  return {a * b.re, a * b.im};
+}
+
+template <class T>
+T apply(Div, T a, T b) {
+  if constexpr (kIsComplex<T>) {
+    const auto norm = a.re * a.re + a.im * a.im;
+    return {(b.re * a.re + b.im * a.im) / norm, (b.im * a.re - b.re * a.im) / norm};
+  } else {
+    return b / a;
+  }
+}
+
+template <class T>
+T apply(DivC, T a, T b) {
+  if constexpr (kIsComplex<T>) {
+    return apply(Div(), b, a);
+  } else {
+    return a * (1 / b);
+  }
 }
 
 template <class T>
@@ -35,7 +76,17 @@ T apply(Abs, T a) {
 
 template <class T>
 T apply(Sqr, T a) {
-  return a * a;
+  return apply(Mul(), a, a);
+}
+
+template <class T>
+T apply(Sqrt, T a) {
+  if constexpr (kIsComplex<T>) {
+    const auto root = std::sqrt(std::complex<decltype(a.re)>(a.re, a.im));
+    return {root.real(), root.imag()};
+  } else {
+    return std::sqrt(a);
+  }
 }
 
 template <class T>
@@ -92,15 +143,23 @@ void Unary<Op, T>::inPlace(T* srcDst, int len) {
   for (int i = 0; i < len; ++i) srcDst[i] = apply(Op(), srcDst[i]);
 }
 
-template <class Op, class T>
-void Binary<Op, T>::separate(const T* __restrict src1, const T* __restrict src2, T* __restrict dst,
-                             int len) {
+template <class Op, class S, class T>
+void Binary<Op, S, T>::separate(const S* __restrict src1, const T* __restrict src2,
+                                T* __restrict dst, int len) {
   for (int i = 0; i < len; ++i) dst[i] = apply(Op(), src1[i], src2[i]);
 }
 
-template <class Op, class T>
-void Binary<Op, T>::inPlace(const T* __restrict src, T* __restrict srcDst, int len) {
+template <class Op, class S, class T>
+void Binary<Op, S, T>::inPlace(const S* __restrict src, T* __restrict srcDst, int len) {
   for (int i = 0; i < len; ++i) srcDst[i] = apply(Op(), src[i], srcDst[i]);
+}
+
+template <class Op, class S, class T>
+void Widening<Op, S, T>::separate(const S* __restrict src1, const S* __restrict src2,
+                                  T* __restrict dst, int len) {
+  for (int i = 0; i < len; ++i) {
+    dst[i] = apply(Op(), static_cast<T>(src1[i]), static_cast<T>(src2[i]));
+  }
 }
 
 template <class Op, class T, class C>
@@ -116,7 +175,29 @@ void WithConstant<Op, T, C>::inPlace(C val, T* srcDst, int len) {
 template <class T>
 void Accumulate<T>::addProduct(const T* __restrict src1, const T* __restrict src2,
                                T* __restrict srcDst, int len) {
-  for (int i = 0; i < len; ++i) srcDst[i] += src1[i] * src2[i];
+  for (int i = 0; i < len; ++i) {
+    srcDst[i] = apply(Add(), srcDst[i], apply(Mul(), src1[i], src2[i]));
+  }
+}
+
+template <class T, class R>
+T normalized(T x, T vSub, R vDiv) {
+  if constexpr (kIsComplex<T>) {
+    return {(x.re - vSub.re) / vDiv, (x.im - vSub.im) / vDiv};
+  } else {
+    return (x - vSub) / vDiv;
+  }
+}
+
+template <class T, class R>
+void Normalize<T, R>::separate(const T* __restrict src, T* __restrict dst, int len, T vSub,
+                               R vDiv) {
+  for (int i = 0; i < len; ++i) dst[i] = normalized(src[i], vSub, vDiv);
+}
+
+template <class T, class R>
+void Normalize<T, R>::inPlace(T* srcDst, int len, T vSub, R vDiv) {
+  for (int i = 0; i < len; ++i) srcDst[i] = normalized(srcDst[i], vSub, vDiv);
 }
 
 template <class T>
@@ -177,16 +258,42 @@ template struct Unary<Abs, Vek32f>;
 template struct Unary<Abs, Vek64f>;
 template struct Unary<Sqr, Vek32f>;
 template struct Unary<Sqr, Vek64f>;
+template struct Unary<Sqr, Vek32fc>;
+template struct Unary<Sqr, Vek64fc>;
+template struct Unary<Sqrt, Vek32f>;
+template struct Unary<Sqrt, Vek64f>;
+template struct Unary<Sqrt, Vek32fc>;
+template struct Unary<Sqrt, Vek64fc>;
 
 template struct Binary<Add, Vek32f>;
 template struct Binary<Add, Vek64f>;
 template struct Binary<Add, Vek32fc>;
+template struct Binary<Add, Vek64fc>;
 template struct Binary<Sub, Vek32f>;
 template struct Binary<Sub, Vek64f>;
+template struct Binary<Sub, Vek32fc>;
+template struct Binary<Sub, Vek64fc>;
 template struct Binary<Mul, Vek32f>;
 template struct Binary<Mul, Vek64f>;
+template struct Binary<Mul, Vek32fc>;
+template struct Binary<Mul, Vek64fc>;
+template struct Binary<Div, Vek32f>;
+template struct Binary<Div, Vek64f>;
+template struct Binary<Div, Vek32fc>;
+template struct Binary<Div, Vek64fc>;
+template struct Binary<Mul, Vek32f, Vek32fc>;
+template struct Widening<Add, Vek16s, Vek32f>;
+template struct Widening<Sub, Vek16s, Vek32f>;
+template struct Widening<Mul, Vek16s, Vek32f>;
 template struct Accumulate<Vek32f>;
 template struct Accumulate<Vek64f>;
+template struct Accumulate<Vek32fc>;
+template struct Accumulate<Vek64fc>;
+template struct Normalize<Vek32f>;
+template struct Normalize<Vek64f>;
+template struct Normalize<Vek32fc, Vek32f>;
+template struct Normalize<Vek64fc, Vek64f>;
+
 template struct Binary<And, Vek8u>;
 template struct Binary<And, Vek16u>;
 template struct Binary<And, Vek32u>;
@@ -200,8 +307,24 @@ template struct Binary<Xor, Vek32u>;
 template struct WithConstant<Add, Vek32f>;
 template struct WithConstant<Add, Vek64f>;
 template struct WithConstant<Add, Vek32fc>;
+template struct WithConstant<Add, Vek64fc>;
+template struct WithConstant<SubC, Vek32f>;
+template struct WithConstant<SubC, Vek64f>;
+template struct WithConstant<SubC, Vek32fc>;
+template struct WithConstant<SubC, Vek64fc>;
+template struct WithConstant<Sub, Vek32f>;
+template struct WithConstant<Sub, Vek64f>;
+template struct WithConstant<Sub, Vek32fc>;
+template struct WithConstant<Sub, Vek64fc>;
 template struct WithConstant<Mul, Vek32f>;
 template struct WithConstant<Mul, Vek64f>;
+template struct WithConstant<Mul, Vek32fc>;
+template struct WithConstant<Mul, Vek64fc>;
+template struct WithConstant<DivC, Vek32f>;
+template struct WithConstant<DivC, Vek64f>;
+template struct WithConstant<DivC, Vek32fc>;
+template struct WithConstant<DivC, Vek64fc>;
+template struct WithConstant<Div, Vek32f>;
 template struct WithConstant<And, Vek8u>;
 template struct WithConstant<And, Vek16u>;
 template struct WithConstant<And, Vek32u>;

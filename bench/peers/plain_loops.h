@@ -6,10 +6,14 @@
 namespace veks::bench::plain {
 
 struct Add {};
-struct Sub {};
+struct Sub {};   // second - first, as of two vectors; constant - element
+struct SubC {};  // first - second: element - constant
 struct Mul {};
+struct Div {};   // second / first, as of two vectors; constant / element
+struct DivC {};  // element * (1 / constant)
 struct Abs {};
 struct Sqr {};
+struct Sqrt {};
 struct And {};
 struct Or {};
 struct Xor {};
@@ -27,10 +31,16 @@ struct Unary {
   static void inPlace(T* srcDst, int len);
 };
 
-template <class Op, class T>
+template <class Op, class S, class T = S>
 struct Binary {
-  static void separate(const T* src1, const T* src2, T* dst, int len);
-  static void inPlace(const T* src, T* srcDst, int len);
+  static void separate(const S* src1, const T* src2, T* dst, int len);
+  static void inPlace(const S* src, T* srcDst, int len);
+};
+
+// Of two vectors of one type into one of another.
+template <class Op, class S, class T>
+struct Widening {
+  static void separate(const S* src1, const S* src2, T* dst, int len);
 };
 
 template <class Op, class T, class C = T>
@@ -42,6 +52,13 @@ struct WithConstant {
 template <class T>
 struct Accumulate {
   static void addProduct(const T* src1, const T* src2, T* srcDst, int len);
+};
+
+// (src - vSub) / vDiv
+template <class T, class R = T>
+struct Normalize {
+  static void separate(const T* src, T* dst, int len, T vSub, R vDiv);
+  static void inPlace(T* srcDst, int len, T vSub, R vDiv);
 };
 
 template <class T>

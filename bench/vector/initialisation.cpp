@@ -1,78 +1,76 @@
 #include <cstring>
 
+#include "comparisons.h"
 #include "peers/plain_loops.h"
-#include "vectors.h"
 
 namespace veks::bench {
 namespace {
 
 Peer memcpyPeer() {
   return [](const Vectors& v) {
-    return contestant("memcpy", std::memcpy, v.dst<void>(), v.src1<void>(), v.bytes());
+    return contestant("memcpy", std::memcpy, v.dst(), v.src1(), v.bytes());
   };
 }
 
 Peer memmovePeer() {
   return [](const Vectors& v) {
-    return contestant("memmove", std::memmove, v.dst<void>(), v.src1<void>(), v.bytes());
+    return contestant("memmove", std::memmove, v.dst(), v.src1(), v.bytes());
   };
 }
 
 Peer memsetPeer(int value) {
   return [value](const Vectors& v) {
-    return contestant("memset", std::memset, v.dst<void>(), value, v.bytes());
+    return contestant("memset", std::memset, v.dst(), value, v.bytes());
   };
 }
 
 template <class T>
 void copy(const char* name, VekStatus (*function)(const T*, T*, int)) {
-  compareVectors(name, function, kReadWrite,
+  compareVectors(name, function, {},
                  {memcpyPeer(), memmovePeer(), peer("std::copy", plain::Standard<T>::copy)});
 }
 
 template <class T>
 void move(const char* name, VekStatus (*function)(const T*, T*, int)) {
-  compareVectors(name, function, kReadWrite,
-                 {memmovePeer(), peer("std::copy", plain::Standard<T>::copy)});
-  compareOverlapping(name, function, kReadWrite, {memmovePeer()});
+  compareVectors(name, function, {}, {memmovePeer(), peer("std::copy", plain::Standard<T>::copy)});
+  compareOverlapping(name, function, {memmovePeer()});
 }
 
 template <class T>
 void set(const char* name, VekStatus (*function)(T, T*, int)) {
-  std::vector<Peer> peers = {peer("std::fill", plain::Standard<T>::fill)};
+  std::vector<Peer> peers = {peer("std::fill", plain::Standard<T>::fill, constant<T>())};
   if (sizeof(T) == 1) peers.push_back(memsetPeer(kConstantByte));
-  compareVectors(name, function, kWrite, peers);
+  compareVectors(name, function, {}, peers, constant<T>());
 }
 
 template <class T>
 void zero(const char* name, VekStatus (*function)(T*, int)) {
-  compareVectors(name, function, kWrite,
+  compareVectors(name, function, {},
                  {memsetPeer(0), peer("std::fill", plain::Standard<T>::fillZero)});
 }
 
 template <class T>
 void flip(const char* name, VekStatus (*function)(const T*, T*, int)) {
-  compareVectors(name, function, kReadWrite,
+  compareVectors(name, function, {},
                  {peer("loop", plain::Reverse<T>::separate),
                   peer("std::reverse_copy", plain::Reverse<T>::stdReverseCopy)});
 }
 
 template <class T>
 void flip(const char* name, VekStatus (*function)(T*, int)) {
-  compareVectors(name, function, kReadWrite,
+  compareVectors(name, function, kInPlace,
                  {peer("loop", plain::Reverse<T>::inPlace),
                   peer("std::reverse", plain::Reverse<T>::stdReverse)});
 }
 
 template <class T>
 void swapBytes(const char* name, VekStatus (*function)(const T*, T*, int)) {
-  compareVectors(name, function, kReadWrite,
-                 {peer("loop", plain::Unary<plain::SwapBytes, T>::separate)});
+  compareVectors(name, function, {}, {peer("loop", plain::Unary<plain::SwapBytes, T>::separate)});
 }
 
 template <class T>
 void swapBytes(const char* name, VekStatus (*function)(T*, int)) {
-  compareVectors(name, function, kReadWrite,
+  compareVectors(name, function, kInPlace,
                  {peer("loop", plain::Unary<plain::SwapBytes, T>::inPlace)});
 }
 
@@ -106,15 +104,15 @@ void addCases() {
 
   swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_16u));
   swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_16u_I));
-  compareVectors(VEKS_BENCH_NAMED(veksSwapBytes_24u), kReadWrite,
-                 {peer("loop", plain::SwapBytes24::separate)}, 3);
-  compareVectors(VEKS_BENCH_NAMED(veksSwapBytes_24u_I), kReadWrite,
-                 {peer("loop", plain::SwapBytes24::inPlace)}, 3);
+  compareVectors(VEKS_BENCH_NAMED(veksSwapBytes_24u), {Destination::kWritten, {}, {3, 0, 3}},
+                 {peer("loop", plain::SwapBytes24::separate)});
+  compareVectors(VEKS_BENCH_NAMED(veksSwapBytes_24u_I), {Destination::kUpdated, {}, {0, 0, 3}},
+                 {peer("loop", plain::SwapBytes24::inPlace)});
   swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_32u));
   swapBytes(VEKS_BENCH_NAMED(veksSwapBytes_32u_I));
 }
 
-const Suite suite(addCases);
+const VectorSuite suite(Sizes::kBytes, addCases);
 
 }  // namespace
 }  // namespace veks::bench

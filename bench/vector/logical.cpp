@@ -3,6 +3,18 @@
 namespace veks::bench {
 namespace {
 
+constexpr int kShift = 3;
+
+template <class Op, class T>
+void shift(const char* name, VekStatus (*function)(const T*, int, T*, int)) {
+  withConstant<Op>(name, function, {}, kShift);
+}
+
+template <class Op, class T>
+void shift(const char* name, VekStatus (*function)(int, T*, int)) {
+  withConstant<Op>(name, function, {}, kShift);
+}
+
 void addCases() {
   using namespace plain;
   binary<And>(VEKS_BENCH_NAMED(veksAnd_8u));
@@ -50,25 +62,25 @@ void addCases() {
   unary<Not>(VEKS_BENCH_NAMED(veksNot_32u));
   unary<Not>(VEKS_BENCH_NAMED(veksNot_32u_I));
 
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_8u));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_8u_I));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16u));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16u_I));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16s));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16s_I));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_32s));
-  withConstant<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_32s_I));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_8u));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_8u_I));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16u));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16u_I));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16s));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16s_I));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_32s));
-  withConstant<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_32s_I));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_8u));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_8u_I));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16u));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16u_I));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16s));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_16s_I));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_32s));
+  shift<ShiftLeft>(VEKS_BENCH_NAMED(veksLShiftC_32s_I));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_8u));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_8u_I));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16u));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16u_I));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16s));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_16s_I));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_32s));
+  shift<ShiftRight>(VEKS_BENCH_NAMED(veksRShiftC_32s_I));
 }
 
-const Suite suite(addCases);
+const VectorSuite suite(Sizes::kBytes, addCases);
 
 }  // namespace
 }  // namespace veks::bench

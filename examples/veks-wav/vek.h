@@ -23,6 +23,53 @@ inline void zero(Vek64f* samples, int len) {
   check(veksZero_64f(samples, len));
 }
 
+// Samples of full scale, integers of 32 bits or -1 .. 1.
+inline void convert(const Vek32s* from, Vek32f* to, int len) {
+  check(veksConvert_32s32f_Sfs(from, to, len, 31));
+}
+inline void convert(const Vek32s* from, Vek64f* to, int len) {
+  check(veksConvert_32s64f_Sfs(from, to, len, 31));
+}
+inline void convert(const Vek32f* from, Vek64f* to, int len) {
+  check(veksConvert_32f64f(from, to, len));
+}
+inline void convert(const Vek64f* from, Vek32f* to, int len) {
+  check(veksConvert_64f32f(from, to, len));
+}
+
+// Samples of -1 .. 1 into integers of so many bits, rounded to nearest.
+inline void convertToBits(const Vek32f* from, Vek32s* to, int len, int bits) {
+  check(veksConvert_32f32s_Sfs(from, to, len, 1, 1 - bits));
+}
+inline void convertToBits(const Vek64f* from, Vek32s* to, int len, int bits) {
+  check(veksConvert_64f32s_Sfs(from, to, len, 1, 1 - bits));
+}
+
+inline void multiply(Vek32f* samples, int len, Vek32f factor) {
+  check(veksMulC_32f_I(factor, samples, len));
+}
+inline void multiply(Vek64f* samples, int len, Vek64f factor) {
+  check(veksMulC_64f_I(factor, samples, len));
+}
+
+inline void add(const Vek32f* samples, Vek32f* sum, int len) {
+  check(veksAdd_32f_I(samples, sum, len));
+}
+inline void add(const Vek64f* samples, Vek64f* sum, int len) {
+  check(veksAdd_64f_I(samples, sum, len));
+}
+
+inline void clip(Vek32f* samples, int len, Vek32f low, Vek32f high) {
+  check(veksThreshold_LTValGTVal_32f_I(samples, len, low, low, high, high));
+}
+inline void clip(Vek64f* samples, int len, Vek64f low, Vek64f high) {
+  check(veksThreshold_LTValGTVal_64f_I(samples, len, low, low, high, high));
+}
+
+inline void shiftLeft(Vek32s* samples, int len, int bits) {
+  check(veksLShiftC_32s_I(bits, samples, len));
+}
+
 // Flip keeps bit patterns, so that the floating-point forms serve any elements of their size.
 inline void flip32(void* elements, int len) {
   check(veksFlip_32f_I(static_cast<Vek32f*>(elements), len));

@@ -15,6 +15,7 @@ class ErrorsTest(ProgramTest):
         super().setUp()
         self.write("good.wav", random_sound("pcm16", 2, 100))
         self.write("mono.wav", random_sound("pcm16", 1, 100))
+        self.write("three.wav", random_sound("pcm16", 3, 100))
         self.write("byte.wav", random_sound("pcm8", 2, 100))
         self.write("fast.wav", Sound("pcm16", 2, [(1, 2)], rate=48000))
         self.write("odd.wav", Sound("pcm16", 2, [(1, 2)], rate=44100))
@@ -41,6 +42,11 @@ class ErrorsTest(ProgramTest):
         commands = [lambda name, out: ("reverse", name, out),
                     lambda name, out: ("crush", "--bits", 4, name, out),
                     lambda name, out: ("pad", "--after", 1, name, out),
+                    lambda name, out: ("gain", "-3", name, out),
+                    lambda name, out: ("limit", "0.5", name, out),
+                    lambda name, out: ("convert", "--format", "s24", name, out),
+                    lambda name, out: ("mix", name, "good.wav", out),
+                    lambda name, out: ("mix", "good.wav", name, out),
                     lambda name, out: ("concat", name, "good.wav", out),
                     lambda name, out: ("concat", "good.wav", name, out),
                     lambda name, out: ("info", name),
@@ -58,7 +64,7 @@ class ErrorsTest(ProgramTest):
                  ("long.flac", 90000), ("long.ogg", 10000)]
         for name, count in cases:
             self.cut(name, count)
-            for args in (("info",), ("reverse",), ("pad", "--before", "0")):
+            for args in (("info",), ("reverse",), ("pad", "--before", "0"), ("gain", "1")):
                 with self.subTest(name=name, count=count, args=args):
                     outputs = () if args == ("info",) else ("old.wav",)
                     self.fail_with([f"cut-{name}"], *args, f"cut-{name}", *outputs)
@@ -75,6 +81,17 @@ class ErrorsTest(ProgramTest):
             (("concat", "good.wav", "mono.wav", "old.wav"), ["mono.wav", "channel", "1", "2"]),
             (("concat", "good.wav", "fast.wav", "old.wav"), ["fast.wav", "48000", "8000", "Hz"]),
             (("concat", "none.wav", "none.wav", "old.wav"), ["none.wav", "no frames"]),
+            (("mix", "good.wav", "fast.wav", "old.wav"), ["fast.wav", "48000", "8000", "Hz"]),
+            (("mix", "mono.wav", "fast.wav", "old.wav"), ["fast.wav", "48000", "8000", "Hz"]),
+            (("mix", "good.wav", "three.wav", "old.wav"), ["three.wav", "channel", "3", "2"]),
+            (("mix", "none.wav", "none.wav", "old.wav"), ["none.wav", "no frames"]),
+            (("mix", "long.flac", "float.wav", "out.flac"), ["out.flac", "FLAC", "cannot hold"]),
+            (("gain", "1", "none.wav", "old.wav"), ["none.wav", "no frames"]),
+            (("limit", "1", "none.wav", "old.wav"), ["none.wav", "no frames"]),
+            (("convert", "--format", "u8", "none.wav", "old.wav"), ["none.wav", "no frames"]),
+            (("convert", "--format", "f32", "good.wav", "out.flac"), ["out.flac", "cannot hold"]),
+            (("convert", "--format", "s32", "good.wav", "out.flac"), ["out.flac", "cannot hold"]),
+            (("convert", "--format", "f32", "good.wav", "out.ogg"), ["out.ogg", "cannot hold"]),
             (("reverse", "none.wav", "old.wav"), ["none.wav", "no frames"]),
             (("crush", "--bits", "4", "none.wav", "old.wav"), ["none.wav", "no frames"]),
             (("pad", "--after", "0", "none.wav", "old.wav"), ["none.wav", "no frames"]),
@@ -114,6 +131,15 @@ class ErrorsTest(ProgramTest):
                   for seconds in ((), ("--before", "-1"), ("--after", "nan"), ("--after", "inf"),
                                   ("--after", "1e9"), ("--before", "x"), ("--before", ""),
                                   ("--before", "1s"))]
+        numbers = ("", "x", "nan", "inf", "-inf", "1e999", "3dB", "0.5 ", "--", "1,5")
+        cases += [("gain", *decibels, "good.wav", "out.wav")
+                  for decibels in ((), ("201",), ("-200.1",), *((text,) for text in numbers))]
+        cases += [("limit", *level, "good.wav", "out.wav")
+                  for level in ((), ("0",), ("-0.5",), ("1.01",), *((text,) for text in numbers))]
+        cases += [("convert", *name, "good.wav", "out.wav")
+                  for name in ((), ("--format",), ("--format", ""), ("--format", "s20"),
+                               ("--format", "S16"), ("--format", "16"))]
+        cases += [("mix", "good.wav", "out.wav"), ("mix", "good.wav"), ("gain", "1", "good.wav")]
         for args in cases:
             with self.subTest(args=args):
                 self.fail_with([], *args)

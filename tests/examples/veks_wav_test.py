@@ -207,7 +207,8 @@ class FilesTest(ProgramTest):
                 self.assertEqual(self.read("back.wav"), self.read("in.wav"))
 
     def test_help(self):
-        for command in ((), ("info",), ("reverse",), ("concat",), ("crush",), ("pad",)):
+        for command in ((), ("info",), ("reverse",), ("concat",), ("mix",), ("gain",), ("limit",),
+                        ("crush",), ("pad",), ("convert",)):
             self.assertIn("Usage: veks-wav", self.succeed(*command, "--help"))
 
 

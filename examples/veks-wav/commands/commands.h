@@ -13,6 +13,10 @@ void addReverse(CLI::App& app);
 void addConcat(CLI::App& app);
 void addCrush(CLI::App& app);
 void addPad(CLI::App& app);
+void addGain(CLI::App& app);
+void addLimit(CLI::App& app);
+void addMix(CLI::App& app);
+void addConvert(CLI::App& app);
 
 }  // namespace veks_wav
 

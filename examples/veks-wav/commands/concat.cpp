@@ -2,9 +2,9 @@
 #include <memory>
 
 #include "commands/commands.h"
+#include "commands/files.h"
 #include "error.h"
 #include "sound/blocks.h"
-#include "sound/output_format.h"
 
 namespace veks_wav {
 namespace {
@@ -14,13 +14,6 @@ struct Options {
   std::string b;
   std::string out;
 };
-
-void requireEqual(int valueOfA, int valueOfB, const std::string& unit, const SoundReader& a,
-                  const SoundReader& b) {
-  if (valueOfA == valueOfB) return;
-  throw Error(b.path(), "has " + std::to_string(valueOfB) + " " + unit + ", but " + a.path() +
-                            " has " + std::to_string(valueOfA));
-}
 
 void concat(const Options& options) {
   SoundReader a(options.a);

@@ -4,6 +4,7 @@
 
 #include "commands/commands.h"
 #include "commands/files.h"
+#include "commands/numbers.h"
 #include "sound/blocks.h"
 #include "vek.h"
 
@@ -40,14 +41,10 @@ void pad(const Options& options) {
 
 CLI::Option* addSeconds(CLI::App* command, const std::string& name, double& value,
                         const std::string& text) {
-  // A range of CLI11 lets NaN pass.
-  const auto errorOf = [](const std::string& given) -> std::string {
-    constexpr double kDay = 86400;
-    double seconds = -1;
-    if (CLI::detail::lexical_cast(given, seconds) && seconds >= 0 && seconds <= kDay) return "";
-    return given + " is not a number of seconds from 0 to 86400";
-  };
-  return command->add_option(name, value, text)->type_name("SECONDS")->check(errorOf);
+  constexpr double kDay = 86400;
+  const auto check = numberCheck("a number of seconds from 0 to 86400",
+                                 [](double x) { return x >= 0 && x <= kDay; });
+  return command->add_option(name, value, text)->type_name("SECONDS")->check(check);
 }
 
 }  // namespace

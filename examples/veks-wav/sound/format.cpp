@@ -22,6 +22,11 @@ int encodingOf(const SoundFormat& format) {
   return format.code & SF_FORMAT_SUBMASK;
 }
 
+SoundFormat withEncoding(SoundFormat format, int encoding) {
+  format.code = (format.code & ~SF_FORMAT_SUBMASK) | encoding;
+  return format;
+}
+
 std::string containerName(const SoundFormat& format) {
   return formatName(containerOf(format));
 }
@@ -57,6 +62,14 @@ int pcmBits(const SoundFormat& format) {
   }
 }
 
+int integerBits(const SoundFormat& format) {
+  if (sampleTypeOf(format) != SampleType::kInt32) return 0;
+  const int bits = pcmBits(format);
+  if (bits > 0) return bits;
+  // All codecs without PCM decode to 16 bits, except one.
+  return encodingOf(format) == SF_FORMAT_DWVW_24 ? 24 : 16;
+}
+
 SampleType sampleTypeOf(const SoundFormat& format) {
   switch (encodingOf(format)) {
     case SF_FORMAT_DOUBLE:
@@ -75,6 +88,10 @@ SampleType sampleTypeOf(const SoundFormat& format) {
 
 bool takesFloats(const SoundFormat& format) {
   return pcmBits(format) > 0 || sampleTypeOf(format) != SampleType::kInt32;
+}
+
+bool needsDouble(const SoundFormat& format) {
+  return integerBits(format) > 16 || sampleTypeOf(format) == SampleType::kFloat64;
 }
 
 bool seeksExactly(const SoundFormat& format) {

@@ -14,6 +14,7 @@ struct SoundFormat {
 
 int containerOf(const SoundFormat& format);
 int encodingOf(const SoundFormat& format);
+SoundFormat withEncoding(SoundFormat format, int encoding);
 std::string containerName(const SoundFormat& format);
 std::string encodingName(const SoundFormat& format);
 
@@ -23,6 +24,9 @@ std::string describe(const SoundFormat& format);
 // The width of the samples of an integer PCM encoding, 0 for other encodings.
 int pcmBits(const SoundFormat& format);
 
+// The same for the decoded samples of all integer encodings.
+int integerBits(const SoundFormat& format);
+
 enum class SampleType { kInt32, kFloat32, kFloat64 };
 
 // The type that takes the decoded samples without loss. Integers of all widths fill 32 bits from
@@ -31,6 +35,10 @@ SampleType sampleTypeOf(const SoundFormat& format);
 
 // Whether floating-point samples can be encoded; out of range they are clipped.
 bool takesFloats(const SoundFormat& format);
+
+// Whether single precision, which holds the samples, is too coarse to calculate with them: integers
+// of more than 16 bits and doubles.
+bool needsDouble(const SoundFormat& format);
 
 // Whether a file can be read from any frame on with the same samples as from its beginning.
 bool seeksExactly(const SoundFormat& format);

@@ -58,8 +58,7 @@ std::vector<int> losslessEncodings(const SoundFormat& in) {
       break;
     case SampleType::kInt32:
       if (bits == 8) list.insert(list.end(), {SF_FORMAT_PCM_S8, SF_FORMAT_PCM_U8});
-      // All codecs without PCM decode to 16 bits, except one.
-      if (bits <= 16 && encodingOf(in) != SF_FORMAT_DWVW_24) list.push_back(SF_FORMAT_PCM_16);
+      if (integerBits(in) <= 16) list.push_back(SF_FORMAT_PCM_16);
       if (bits <= 24) list.push_back(SF_FORMAT_PCM_24);
       list.push_back(SF_FORMAT_PCM_32);
   }

@@ -12,8 +12,9 @@
 namespace veks_wav {
 namespace {
 
-SoundFormat checkedFormat(const std::string& path, const SoundReader& model, int64_t frames) {
-  const SoundFormat format = formatOfOutput(path, model.path(), model.format());
+SoundFormat checkedFormat(const std::string& path, const SoundReader& model,
+                          const SoundFormat& wanted, int64_t frames) {
+  const SoundFormat format = formatOfOutput(path, model.path(), wanted);
   checkFileSize(path, format, frames);
   return format;
 }
@@ -21,7 +22,13 @@ SoundFormat checkedFormat(const std::string& path, const SoundReader& model, int
 }  // namespace
 
 SoundWriter::SoundWriter(const std::string& path, const SoundReader& model, int64_t frames)
-    : format_(checkedFormat(path, model, frames)), output_(path), sink_{output_.descriptor(), 0} {
+    : SoundWriter(path, model, model.format(), frames) {}
+
+SoundWriter::SoundWriter(const std::string& path, const SoundReader& model,
+                         const SoundFormat& format, int64_t frames)
+    : format_(checkedFormat(path, model, format, frames)),
+      output_(path),
+      sink_{output_.descriptor(), 0} {
   open();
   copyTexts(model.handle());
 }

@@ -21,6 +21,10 @@ class SoundWriter {
   // that follows from it and from the name of the file.
   SoundWriter(const std::string& path, const SoundReader& model, int64_t frames);
 
+  // The same with another format in the place of the model's.
+  SoundWriter(const std::string& path, const SoundReader& model, const SoundFormat& format,
+              int64_t frames);
+
   const SoundFormat& format() const {
     return format_;
   }

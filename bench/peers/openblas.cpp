@@ -1,0 +1,49 @@
+// OpenBLAS, on one thread, for the operations that are one of its first level: y = a * x + y with
+// a = 1 or -1, and y = a * y.
+#include <cblas.h>
+
+#include "comparisons.h"
+
+namespace veks::bench {
+namespace {
+
+constexpr const char* kName = "OpenBLAS";
+
+template <class... P, class A>
+Peer scale(void (*function)(P...), A a) {
+  return peerWith(kName, function, kLen, a, kDst, 1);
+}
+
+template <class... P, class A>
+Peer addMultiple(void (*function)(P...), A a) {
+  return peerWith(kName, function, kLen, a, kSrc1, 1, kDst, 1);
+}
+
+// Complex constants are passed by address.
+constexpr float kOne32fc[] = {1, 0};
+constexpr double kOne64fc[] = {1, 0};
+constexpr float kMinusOne32fc[] = {-1, 0};
+constexpr double kMinusOne64fc[] = {-1, 0};
+
+std::vector<OptionalPeer> onOneThread() {
+  openblas_set_num_threads(1);
+  return {
+      {"veksAdd_32f_I", addMultiple(cblas_saxpy, 1.0F)},
+      {"veksAdd_64f_I", addMultiple(cblas_daxpy, 1.0)},
+      {"veksAdd_32fc_I", addMultiple(cblas_caxpy, kOne32fc)},
+      {"veksAdd_64fc_I", addMultiple(cblas_zaxpy, kOne64fc)},
+      {"veksSub_32f_I", addMultiple(cblas_saxpy, -1.0F)},
+      {"veksSub_64f_I", addMultiple(cblas_daxpy, -1.0)},
+      {"veksSub_32fc_I", addMultiple(cblas_caxpy, kMinusOne32fc)},
+      {"veksSub_64fc_I", addMultiple(cblas_zaxpy, kMinusOne64fc)},
+      {"veksMulC_32f_I", scale(cblas_sscal, kInPlaceFactor)},
+      {"veksMulC_64f_I", scale(cblas_dscal, kInPlaceFactor)},
+      {"veksMulC_32fc_I", scale(cblas_cscal, kMinusOne32fc)},
+      {"veksMulC_64fc_I", scale(cblas_zscal, kMinusOne64fc)},
+  };
+}
+
+const OptionalPeers peers(onOneThread());
+
+}  // namespace
+}  // namespace veks::bench

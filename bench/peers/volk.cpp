@@ -1,0 +1,109 @@
+// VOLK, called like its users call it: the dispatcher looks at the alignment of the vectors and
+// takes the kernel that ranks first for the processor.
+#include <volk/volk.h>
+
+#include <cmath>
+
+#include "comparisons.h"
+
+namespace veks::bench {
+namespace {
+
+constexpr const char* kName = "VOLK";
+
+// function(dst, src, len)
+template <class... P>
+Peer one(void (**function)(P...)) {
+  return peerWith(kName, function, kDst, kSrc1, kLen);
+}
+
+template <class... P>
+Peer oneInPlace(void (**function)(P...)) {
+  return peerWith(kName, function, kDst, kLen);
+}
+
+// function(dst, src1, src2, len)
+template <class... P>
+Peer two(void (**function)(P...)) {
+  return peerWith(kName, function, kDst, kSrc1, kSrc2, kLen);
+}
+
+template <class... P>
+Peer twoInPlace(void (**function)(P...)) {
+  return peerWith(kName, function, kDst, kSrc1, kDst, kLen);
+}
+
+// The same for functions whose operands stand the other way round.
+template <class... P>
+Peer swapped(void (**function)(P...)) {
+  return peerWith(kName, function, kDst, kSrc2, kSrc1, kLen);
+}
+
+template <class... P>
+Peer swappedInPlace(void (**function)(P...)) {
+  return peerWith(kName, function, kDst, kDst, kSrc1, kLen);
+}
+
+// function(dst, src, value, len)
+template <class Value, class... P>
+Peer withValue(void (**function)(P...), Value value) {
+  return peerWith(kName, function, kDst, kSrc1, value, kLen);
+}
+
+lv_32fc_t complexConstant() {
+  const Vek32fc value = constant<Vek32fc>();
+  return lv_cmake(value.re, value.im);
+}
+
+// It multiplies by the scale factor into integers and divides by it out of them.
+const float kFactorToInteger = std::ldexp(1.0F, -kToInteger);
+const float kDivisorFromInteger = std::ldexp(1.0F, -kToInteger);
+
+// Fused operations, approximate roots and quotients.
+template <class T>
+Peer near(Peer peer) {
+  return approximate(nearAgreement<T>(), std::move(peer));
+}
+
+const OptionalPeers peers({
+    {"veksAdd_32f", two(&volk_32f_x2_add_32f)},
+    {"veksAdd_32f_I", twoInPlace(&volk_32f_x2_add_32f)},
+    {"veksAdd_64f", two(&volk_64f_x2_add_64f)},
+    {"veksAdd_64f_I", twoInPlace(&volk_64f_x2_add_64f)},
+    {"veksAdd_32fc", two(&volk_32fc_x2_add_32fc)},
+    {"veksAdd_32fc_I", twoInPlace(&volk_32fc_x2_add_32fc)},
+    {"veksSub_32f", swapped(&volk_32f_x2_subtract_32f)},
+    {"veksSub_32f_I", swappedInPlace(&volk_32f_x2_subtract_32f)},
+    {"veksMul_32f", two(&volk_32f_x2_multiply_32f)},
+    {"veksMul_64f", two(&volk_64f_x2_multiply_64f)},
+    {"veksMul_32fc", near<Vek32fc>(two(&volk_32fc_x2_multiply_32fc))},
+    {"veksMul_32f32fc", swapped(&volk_32fc_32f_multiply_32fc)},
+    {"veksDiv_32f", near<Vek32f>(swapped(&volk_32f_x2_divide_32f))},
+    {"veksDiv_32fc", near<Vek32fc>(swapped(&volk_32fc_x2_divide_32fc))},
+    {"veksAddC_32f", withValue(&volk_32f_s32f_add_32f, constant<float>())},
+    {"veksMulC_32f", withValue(&volk_32f_s32f_multiply_32f, constant<float>())},
+    {"veksMulC_32fc", near<Vek32fc>(withValue(&volk_32fc_s32fc_multiply_32fc, complexConstant()))},
+    {"veksSqrt_32f", near<Vek32f>(one(&volk_32f_sqrt_32f))},
+
+    {"veksConvert_16s32f", withValue(&volk_16i_s32f_convert_32f, 1.0F)},
+    {"veksConvert_8s32f", withValue(&volk_8i_s32f_convert_32f, 1.0F)},
+    {"veksConvert_32s32f", withValue(&volk_32i_s32f_convert_32f, 1.0F)},
+    {"veksConvert_32f64f", one(&volk_32f_convert_64f)},
+    {"veksConvert_64f32f", one(&volk_64f_convert_32f)},
+    {"veksConvert_16sc32fc", one(&volk_16ic_convert_32fc)},
+    {"veksConvert_16s32f_Sfs", withValue(&volk_16i_s32f_convert_32f, kDivisorFromInteger)},
+    {"veksConvert_32s32f_Sfs", withValue(&volk_32i_s32f_convert_32f, kDivisorFromInteger)},
+    {"veksConvert_32f8s_Sfs", withValue(&volk_32f_s32f_convert_8i, kFactorToInteger)},
+    {"veksConvert_32f16s_Sfs", withValue(&volk_32f_s32f_convert_16i, kFactorToInteger)},
+    {"veksConvert_32f32s_Sfs", withValue(&volk_32f_s32f_convert_32i, kFactorToInteger)},
+
+    {"veksAnd_32u", two(&volk_32i_x2_and_32i)},
+    {"veksAnd_32u_I", twoInPlace(&volk_32i_x2_and_32i)},
+    {"veksOr_32u", two(&volk_32i_x2_or_32i)},
+    {"veksOr_32u_I", twoInPlace(&volk_32i_x2_or_32i)},
+    {"veksSwapBytes_16u_I", oneInPlace(&volk_16u_byteswap)},
+    {"veksSwapBytes_32u_I", oneInPlace(&volk_32u_byteswap)},
+});
+
+}  // namespace
+}  // namespace veks::bench
