@@ -64,6 +64,16 @@ void addCases() {
 
   addProduct(VEKS_BENCH_NAMED(veksAddProduct_32f));
   addProduct(VEKS_BENCH_NAMED(veksAddProduct_64f));
+
+  binary<Mul>(VEKS_BENCH_NAMED(veksMul_32fc), closeTo<Vek32fc>());
+  binary<Mul>(VEKS_BENCH_NAMED(veksMul_64fc), closeTo<Vek64fc>());
+  binary<Mul>(VEKS_BENCH_NAMED(veksMul_32f32fc));
+  withConstant<Mul>(VEKS_BENCH_NAMED(veksMulC_32fc), closeTo<Vek32fc>());
+  withConstant<Mul>(VEKS_BENCH_NAMED(veksMulC_64fc), closeTo<Vek64fc>());
+  unary<Sqr>(VEKS_BENCH_NAMED(veksSqr_32fc), closeTo<Vek32fc>());
+  unary<Sqr>(VEKS_BENCH_NAMED(veksSqr_64fc), closeTo<Vek64fc>());
+  addProduct(VEKS_BENCH_NAMED(veksAddProduct_32fc), {{}, productSumAgreement<Vek32fc>()});
+  addProduct(VEKS_BENCH_NAMED(veksAddProduct_64fc), {{}, productSumAgreement<Vek64fc>()});
 }
 
 const VectorSuite suite(Sizes::kElements, addCases);
