@@ -21,7 +21,6 @@ struct Product {};
 struct Sqr {};
 struct MulComplex {};
 struct SqrComplex {};
-struct AddProductComplex {};
 
 struct And {};
 struct Or {};

@@ -24,8 +24,9 @@ std::vector<T> operands(bool second) {
     all.push_back(sizeof(T) == 2 && second ? static_cast<T>(random()) : static_cast<T>(value));
   }
   if (sizeof(T) == 2 && second) {
-    // The limits meet each other: elements 0x7FFF, 0x8000 and 0xFFFF of the first operand.
+    // The limits meet each other, and 0 a negative value: the first operand is the position.
     for (int i : {0x7FFF, 0x8000, 0xFFFF}) all[static_cast<size_t>(i)] = static_cast<T>(i);
+    all[0] = static_cast<T>(-5);
   }
   using Limits = std::numeric_limits<T>;
   while (sizeof(T) > 2 && all.size() < 6000) {

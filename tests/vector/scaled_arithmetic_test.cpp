@@ -172,7 +172,9 @@ TEST(MixedArithmetic, WidensItsOperands) {
   checkMixed(veksMul_8u16u, [](int a, int b) { return static_cast<Vek16u>(a * b); });
   checkMixed(veksAdd_16s32f, [](int a, int b) { return static_cast<Vek32f>(a + b); });
   checkMixed(veksSub_16s32f, [](int a, int b) { return static_cast<Vek32f>(b - a); });
-  checkMixed(veksMul_16s32f, [](int a, int b) { return static_cast<Vek32f>(a * b); });
+  // A product with zero keeps its sign.
+  checkMixed(veksMul_16s32f,
+             [](int a, int b) { return static_cast<Vek32f>(a) * static_cast<Vek32f>(b); });
 }
 
 TEST(MixedArithmetic, AddsInPlace) {

@@ -34,64 +34,117 @@ HWY_INLINE V subtractAdd(D d, V a, V b) {
   } else if constexpr (std::is_same_v<V, hn::Vec256<double>>) {
     return V{_mm256_addsub_pd(a.raw, b.raw)};
   }
+#elif HWY_TARGET == HWY_AVX3
+  // There is no such instruction, but a fused one, whose factor 1 leaves one rounding.
+  if constexpr (std::is_same_v<V, hn::Vec512<float>>) {
+    return V{_mm512_fmaddsub_ps(a.raw, _mm512_set1_ps(1), b.raw)};
+  } else if constexpr (std::is_same_v<V, hn::Vec512<double>>) {
+    return V{_mm512_fmaddsub_pd(a.raw, _mm512_set1_pd(1), b.raw)};
+  }
 #endif
   (void)d;
   return hn::OddEven(hn::Add(a, b), hn::Sub(a, b));
 }
 
+// The real parts of complex values in both places, and the imaginary ones. Loads can do that in
+// passing, which spares the one unit for shuffles; the compiler would load once and shuffle.
+template <class D, class T>
+HWY_INLINE hn::Vec<D> loadReal(D d, const T* parts) {
+#if HWY_TARGET == HWY_AVX3
+  using V = hn::Vec<D>;
+  V v;
+  if constexpr (std::is_same_v<V, hn::Vec512<float>>) {
+    asm("vmovsldup %1, %0" : "=v"(v.raw) : "m"(*reinterpret_cast<const __m512_u*>(parts)));
+    return v;
+  } else if constexpr (std::is_same_v<V, hn::Vec512<double>>) {
+    asm("vmovddup %1, %0" : "=v"(v.raw) : "m"(*reinterpret_cast<const __m512d_u*>(parts)));
+    return v;
+  }
+#endif
+  return hn::DupEven(hn::LoadU(d, parts));
+}
+template <class D, class T>
+HWY_INLINE hn::Vec<D> loadImaginary(D d, const T* parts) {
+#if HWY_TARGET == HWY_AVX3
+  using V = hn::Vec<D>;
+  if constexpr (std::is_same_v<V, hn::Vec512<float>>) {
+    V v;
+    asm("vmovshdup %1, %0" : "=v"(v.raw) : "m"(*reinterpret_cast<const __m512_u*>(parts)));
+    return v;
+  }
+#endif
+  return hn::DupOdd(hn::LoadU(d, parts));
+}
+
+// a (re + i im)
 template <class D, class V>
-HWY_INLINE V complexProduct(D d, V a, V b) {
-  return subtractAdd(d, hn::Mul(a, hn::DupEven(b)), hn::Mul(swapParts(d, a), hn::DupOdd(b)));
+HWY_INLINE V complexProduct(D d, V a, V re, V im) {
+  return subtractAdd(d, hn::Mul(a, re), hn::Mul(swapParts(d, a), im));
 }
 
-template <>
-struct Operation<MulComplex> {
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a, V b) const {
-    return complexProduct(d, a, b);
+template <class T>
+struct ComplexProducts {
+  const T* src1;
+  const T* src2;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return complexProduct(d, hn::LoadU(d, src1 + i), loadReal(d, src2 + i),
+                          loadImaginary(d, src2 + i));
   }
 };
 
-template <>
-struct Operation<SqrComplex> {
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a) const {
-    return complexProduct(d, a, a);
+template <class T>
+struct ComplexProductsAndSum {
+  ComplexProducts<T> products;
+  const T* sum;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return hn::Add(hn::LoadU(d, sum + i), products(d, i));
   }
 };
 
-template <>
-struct Operation<AddProductComplex> {
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a, V b, V sum) const {
-    return hn::Add(sum, complexProduct(d, a, b));
+template <class T>
+struct ComplexMultiples {
+  const T* src;
+  T re;
+  T im;
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return complexProduct(d, hn::LoadU(d, src + i), hn::Set(d, re), hn::Set(d, im));
   }
 };
 
-// dst[i] = Op(src[i]), n complex values, and so on.
-template <class Op, class C>
-VekStatus MapComplexOne(const C* src, C* dst, size_t n) {
+// dst[i] = src1[i] * src2[i], n complex values
+template <class C>
+VekStatus MulComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
   using T = decltype(dst->re);
-  const OneSource<Operation<Op>, T> body{reinterpret_cast<const T*>(src)};
-  produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src == dst);
-  return vekStsOk;
-}
-
-template <class Op, class C>
-VekStatus MapComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
-  using T = decltype(dst->re);
-  const TwoSources<Operation<Op>, T> body{reinterpret_cast<const T*>(src1),
-                                          reinterpret_cast<const T*>(src2)};
+  const ComplexProducts<T> body{reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2)};
   produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
   return vekStsOk;
 }
 
-template <class Op, class C>
+// dst[i] = src[i] * src[i]
+template <class C>
+VekStatus SqrComplexOne(const C* src, C* dst, size_t n) {
+  return MulComplexTwo(src, src, dst, n);
+}
+
+// dst[i] = src[i] * val
+template <class C>
+VekStatus MulComplexConstant(const C* src, C val, C* dst, size_t n) {
+  using T = decltype(dst->re);
+  const ComplexMultiples<T> body{reinterpret_cast<const T*>(src), val.re, val.im};
+  produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src == dst);
+  return vekStsOk;
+}
+
+// srcDst[i] += src1[i] * src2[i]
+template <class C>
 VekStatus AccumulateComplex(const C* src1, const C* src2, C* srcDst, size_t n) {
   using T = decltype(srcDst->re);
   T* const sum = reinterpret_cast<T*>(srcDst);
-  const TwoSourcesAndSum<Operation<Op>, T> body{reinterpret_cast<const T*>(src1),
-                                                reinterpret_cast<const T*>(src2), sum};
+  const ComplexProductsAndSum<T> body{
+      {reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2)}, sum};
   produce<2>(body, sum, 2 * n, true);
   return vekStsOk;
 }

@@ -13,19 +13,19 @@
 using namespace veks;
 
 VekStatus veksMul_32fc(const Vek32fc* pSrc1, const Vek32fc* pSrc2, Vek32fc* pDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapComplexTwo<MulComplex, Vek32fc>), pSrc1, pSrc2, pDst, len);
+  return mapTwo(VEKS_KERNEL(MulComplexTwo<Vek32fc>), pSrc1, pSrc2, pDst, len);
 }
 
 VekStatus veksMul_32fc_I(const Vek32fc* pSrc, Vek32fc* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapComplexTwo<MulComplex, Vek32fc>), pSrc, pSrcDst, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MulComplexTwo<Vek32fc>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksMul_64fc(const Vek64fc* pSrc1, const Vek64fc* pSrc2, Vek64fc* pDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapComplexTwo<MulComplex, Vek64fc>), pSrc1, pSrc2, pDst, len);
+  return mapTwo(VEKS_KERNEL(MulComplexTwo<Vek64fc>), pSrc1, pSrc2, pDst, len);
 }
 
 VekStatus veksMul_64fc_I(const Vek64fc* pSrc, Vek64fc* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(MapComplexTwo<MulComplex, Vek64fc>), pSrc, pSrcDst, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(MulComplexTwo<Vek64fc>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksMul_16sc_Sfs(const Vek16sc* pSrc1, const Vek16sc* pSrc2, Vek16sc* pDst, int len,
@@ -70,21 +70,19 @@ VekStatus veksMul_32s32sc_ISfs(const Vek32s* pSrc, Vek32sc* pSrcDst, int len, in
 }
 
 VekStatus veksMulC_32fc(const Vek32fc* pSrc, Vek32fc val, Vek32fc* pDst, int len) {
-  return mapConstant(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek32fc>), pSrc, val, pDst, len);
+  return mapConstant(VEKS_KERNEL(MulComplexConstant<Vek32fc>), pSrc, val, pDst, len);
 }
 
 VekStatus veksMulC_32fc_I(Vek32fc val, Vek32fc* pSrcDst, int len) {
-  return mapConstant(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek32fc>), pSrcDst, val, pSrcDst,
-                     len);
+  return mapConstant(VEKS_KERNEL(MulComplexConstant<Vek32fc>), pSrcDst, val, pSrcDst, len);
 }
 
 VekStatus veksMulC_64fc(const Vek64fc* pSrc, Vek64fc val, Vek64fc* pDst, int len) {
-  return mapConstant(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek64fc>), pSrc, val, pDst, len);
+  return mapConstant(VEKS_KERNEL(MulComplexConstant<Vek64fc>), pSrc, val, pDst, len);
 }
 
 VekStatus veksMulC_64fc_I(Vek64fc val, Vek64fc* pSrcDst, int len) {
-  return mapConstant(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek64fc>), pSrcDst, val, pSrcDst,
-                     len);
+  return mapConstant(VEKS_KERNEL(MulComplexConstant<Vek64fc>), pSrcDst, val, pSrcDst, len);
 }
 
 VekStatus veksMulC_16sc_Sfs(const Vek16sc* pSrc, Vek16sc val, Vek16sc* pDst, int len,
@@ -110,19 +108,19 @@ VekStatus veksMulC_32sc_ISfs(Vek32sc val, Vek32sc* pSrcDst, int len, int scaleFa
 }
 
 VekStatus veksSqr_32fc(const Vek32fc* pSrc, Vek32fc* pDst, int len) {
-  return mapOne(VEKS_KERNEL(MapComplexOne<SqrComplex, Vek32fc>), pSrc, pDst, len);
+  return mapOne(VEKS_KERNEL(SqrComplexOne<Vek32fc>), pSrc, pDst, len);
 }
 
 VekStatus veksSqr_32fc_I(Vek32fc* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(MapComplexOne<SqrComplex, Vek32fc>), pSrcDst, pSrcDst, len);
+  return mapOne(VEKS_KERNEL(SqrComplexOne<Vek32fc>), pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksSqr_64fc(const Vek64fc* pSrc, Vek64fc* pDst, int len) {
-  return mapOne(VEKS_KERNEL(MapComplexOne<SqrComplex, Vek64fc>), pSrc, pDst, len);
+  return mapOne(VEKS_KERNEL(SqrComplexOne<Vek64fc>), pSrc, pDst, len);
 }
 
 VekStatus veksSqr_64fc_I(Vek64fc* pSrcDst, int len) {
-  return mapOne(VEKS_KERNEL(MapComplexOne<SqrComplex, Vek64fc>), pSrcDst, pSrcDst, len);
+  return mapOne(VEKS_KERNEL(SqrComplexOne<Vek64fc>), pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksSqr_16sc_Sfs(const Vek16sc* pSrc, Vek16sc* pDst, int len, int scaleFactor) {
@@ -137,12 +135,10 @@ VekStatus veksSqr_16sc_ISfs(Vek16sc* pSrcDst, int len, int scaleFactor) {
 
 VekStatus veksAddProduct_32fc(const Vek32fc* pSrc1, const Vek32fc* pSrc2, Vek32fc* pSrcDst,
                               int len) {
-  return mapTwo(VEKS_KERNEL(AccumulateComplex<AddProductComplex, Vek32fc>), pSrc1, pSrc2, pSrcDst,
-                len);
+  return mapTwo(VEKS_KERNEL(AccumulateComplex<Vek32fc>), pSrc1, pSrc2, pSrcDst, len);
 }
 
 VekStatus veksAddProduct_64fc(const Vek64fc* pSrc1, const Vek64fc* pSrc2, Vek64fc* pSrcDst,
                               int len) {
-  return mapTwo(VEKS_KERNEL(AccumulateComplex<AddProductComplex, Vek64fc>), pSrc1, pSrc2, pSrcDst,
-                len);
+  return mapTwo(VEKS_KERNEL(AccumulateComplex<Vek64fc>), pSrc1, pSrc2, pSrcDst, len);
 }

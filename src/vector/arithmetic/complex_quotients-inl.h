@@ -13,8 +13,27 @@ HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
-// b / a by conj(a) b / |a|^2. Where a is 0, b is divided by +0 part by part.
+// 1 / v where both lanes of a pair are the same: one division for each pair where vectors are
+// longer.
 template <class D, class V>
+HWY_INLINE V reciprocalOfPairs(D d, V v) {
+  if constexpr (MaxLanes(D()) < 4) {
+    return hn::Div(hn::Set(d, 1.0), v);
+  } else {
+    const hn::Half<D> dh;
+    const auto single = hn::LowerHalf(dh, hn::ConcatEven(d, v, v));
+    const auto inverse = hn::Div(hn::Set(dh, 1.0), single);
+    alignas(64) static constexpr int64_t kTwice[] = {0, 0, 1, 1, 2, 2, 3, 3};
+    const auto indices = hn::SetTableIndices(d, kTwice);
+    return hn::TableLookupLanes(hn::ZeroExtendVector(d, inverse), indices);
+  }
+}
+
+// Whether quotients are rounded once, or come from a reciprocal, with three roundings.
+enum class Quotients { kRounded, kFast };
+
+// b / a by conj(a) b / |a|^2. Where a is 0, b is divided by +0 part by part.
+template <Quotients quotients, class D, class V>
 HWY_INLINE V plainComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   const V squares = hn::Mul(a, a);
   const V norm = hn::Add(squares, swapParts(d, squares));
@@ -22,7 +41,12 @@ HWY_INLINE V plainComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   const V product = subtractAdd(d, hn::Mul(b, hn::DupEven(a)), hn::Neg(crossed));
   const auto zero = hn::Eq(norm, hn::Zero(d));
   zeroSeen |= !hn::AllFalse(d, zero);
-  return hn::Div(hn::IfThenElse(zero, b, product), norm);
+  const V dividend = hn::IfThenElse(zero, b, product);
+  if constexpr (quotients == Quotients::kRounded) {
+    return hn::Div(dividend, norm);
+  } else {
+    return hn::Mul(dividend, reciprocalOfPairs(d, norm));
+  }
 }
 
 // Exponents as the bits of powers of two.
@@ -54,7 +78,8 @@ HWY_INLINE V wideComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   const V lowered = hn::IfThenElse(hn::Gt(largerB, hn::Set(d, 0x1p1019)), hn::Set(d, 0x1p-8), one);
   const V scaleB =
       hn::IfThenElse(hn::Lt(largerB, hn::Set(d, 0x1p-800)), hn::Set(d, 0x1p200), lowered);
-  const V quotient = plainComplexQuotient(d, hn::Mul(a, scaleA), hn::Mul(b, scaleB), zeroSeen);
+  const V quotient =
+      plainComplexQuotient<Quotients::kFast>(d, hn::Mul(a, scaleA), hn::Mul(b, scaleB), zeroSeen);
   const auto back = hn::Sub(hn::BitCast(di, scaleA), hn::BitCast(di, scaleB));
   const auto half = hn::And(hn::ShiftRight<1>(back), hn::Set(di, -kExponentOne));
   const auto exponentOfOne = hn::BitCast(di, one);
@@ -81,7 +106,7 @@ struct ComplexQuotientsInDouble {
       const hn::Rebind<double, decltype(dPart)> dd;
       const auto a = hn::PromoteTo(dd, hn::LoadU(dPart, divisors + k));
       const auto b = hn::PromoteTo(dd, hn::LoadU(dPart, dividends + k));
-      return demoteToFloat(dPart, plainComplexQuotient(dd, a, b, *zeroSeen));
+      return demoteToFloat(dPart, plainComplexQuotient<Quotients::kFast>(dd, a, b, *zeroSeen));
     });
   }
 };
@@ -120,7 +145,7 @@ struct ComplexIntegerQuotients {
       auto a = hn::OddEven(hn::Set(dd, static_cast<double>(divisor.im)),
                            hn::Set(dd, static_cast<double>(divisor.re)));
       if (divisors != nullptr) a = loadAsFloats(dd, divisors + k);
-      const auto quotient = plainComplexQuotient(dd, a, b, *zeroSeen);
+      const auto quotient = plainComplexQuotient<Quotients::kRounded>(dd, a, b, *zeroSeen);
       // 0 / 0 is the only NaN.
       const auto defined = hn::IfThenElseZero(hn::Eq(quotient, quotient), quotient);
       const auto scaled = hn::Mul(defined, hn::Set(dd, factor));

@@ -130,21 +130,19 @@ VekStatus veksDivC_64f_I(Vek64f val, Vek64f* pSrcDst, int len) {
 }
 
 VekStatus veksDivC_32fc(const Vek32fc* pSrc, Vek32fc val, Vek32fc* pDst, int len) {
-  return mapReciprocal(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek32fc>), pSrc, val, pDst, len);
+  return mapReciprocal(VEKS_KERNEL(MulComplexConstant<Vek32fc>), pSrc, val, pDst, len);
 }
 
 VekStatus veksDivC_32fc_I(Vek32fc val, Vek32fc* pSrcDst, int len) {
-  return mapReciprocal(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek32fc>), pSrcDst, val, pSrcDst,
-                       len);
+  return mapReciprocal(VEKS_KERNEL(MulComplexConstant<Vek32fc>), pSrcDst, val, pSrcDst, len);
 }
 
 VekStatus veksDivC_64fc(const Vek64fc* pSrc, Vek64fc val, Vek64fc* pDst, int len) {
-  return mapReciprocal(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek64fc>), pSrc, val, pDst, len);
+  return mapReciprocal(VEKS_KERNEL(MulComplexConstant<Vek64fc>), pSrc, val, pDst, len);
 }
 
 VekStatus veksDivC_64fc_I(Vek64fc val, Vek64fc* pSrcDst, int len) {
-  return mapReciprocal(VEKS_KERNEL(MapComplexConstant<MulComplex, Vek64fc>), pSrcDst, val, pSrcDst,
-                       len);
+  return mapReciprocal(VEKS_KERNEL(MulComplexConstant<Vek64fc>), pSrcDst, val, pSrcDst, len);
 }
 
 VekStatus veksDivC_8u_Sfs(const Vek8u* pSrc, Vek8u val, Vek8u* pDst, int len, int scaleFactor) {

@@ -106,14 +106,17 @@ struct TwoPromoted {
   const S* src2;
   template <class D>
   HWY_INLINE hn::Vec<D> operator()(D d, size_t i) const {
-    const hn::Rebind<S, D> ds;
+    return Operation<Op>()(d, load(d, src1 + i), load(d, src2 + i));
+  }
+
+ private:
+  template <class D>
+  static HWY_INLINE hn::Vec<D> load(D d, const S* src) {
+    const auto narrow = hn::LoadU(hn::Rebind<S, D>(), src);
     if constexpr (std::is_floating_point_v<T>) {
-      const hn::Rebind<int32_t, D> di;
-      return hn::ConvertTo(d, Operation<Op>()(di, hn::PromoteTo(di, hn::LoadU(ds, src1 + i)),
-                                              hn::PromoteTo(di, hn::LoadU(ds, src2 + i))));
+      return hn::ConvertTo(d, hn::PromoteTo(hn::Rebind<int32_t, D>(), narrow));
     } else {
-      return Operation<Op>()(d, hn::PromoteTo(d, hn::LoadU(ds, src1 + i)),
-                             hn::PromoteTo(d, hn::LoadU(ds, src2 + i)));
+      return hn::PromoteTo(d, narrow);
     }
   }
 };
