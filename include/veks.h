@@ -15,5 +15,7 @@
 #include "veks/vector/arithmetic.h"
 #include "veks/vector/initialisation.h"
 #include "veks/vector/logical.h"
+#include "veks/vector/normalisation.h"
+#include "veks/vector/threshold.h"
 
 #endif

@@ -4,6 +4,7 @@ from collections.abc import Mapping, Sequence
 from dataclasses import dataclass, field
 
 INT_MIN = -(2**31)
+INT_MAX = 2**31 - 1
 
 
 @dataclass(frozen=True)
