@@ -16,5 +16,7 @@
 #include "veks/vector/conversion.h"
 #include "veks/vector/initialisation.h"
 #include "veks/vector/logical.h"
+#include "veks/vector/normalisation.h"
+#include "veks/vector/threshold.h"
 
 #endif

@@ -75,6 +75,15 @@ inline VekStatus mapShift(Kernel kernel, const T* src, int bits, T* dst, int len
   return bits < 0 ? vekErrShift : kernel(src, bits, dst, static_cast<size_t>(len));
 }
 
+// kernel(src, dst, n, parameters ...), unless the check of the parameters has given an error
+template <class Kernel, class S, class T, class... P>
+inline VekStatus mapChecked(Kernel kernel, const S* src, T* dst, int len, VekStatus check,
+                            P... parameters) {
+  const VekStatus status = checkVectors(len, src, dst);
+  if (status != vekStsOk) return status;
+  return check != vekStsOk ? check : kernel(src, dst, static_cast<size_t>(len), parameters...);
+}
+
 }  // namespace veks
 
 #endif

@@ -61,7 +61,7 @@ EXCEPTIONS = (
     Values(
         r".*_I?Sfs",
         parameters=r"scaleFactor",
-        valid=(0, 1, 3, -2, -9, 60, -60, 128, -128, 1100, INT_MIN, INT_MAX),
+        valid=(0, 1, 3, -2, -6, -7, -9, 60, -60, 128, -128, 1100, INT_MIN, INT_MAX),
         reason="every value is valid; these take all paths",
     ),
     Values(
@@ -76,5 +76,59 @@ EXCEPTIONS = (
         parameters=r"rndMode",
         valid=(0, 1, INT_MIN),
         reason="0 truncates, every other value rounds to nearest",
+    ),
+    Values(
+        r"veksNormalize_(32|64)fc?(_I)?",
+        parameters=r"vDiv",
+        valid=(3, -0.75, 1e9),
+        bad={"vekErrDivByZero": (0, -0.0)},
+        reason="divisors",
+    ),
+    Values(
+        r"veksNormalize_16sc?_I?Sfs",
+        parameters=r"vDiv",
+        valid=(1, -3, 700, INT_MAX, INT_MIN),
+        bad={"vekErrDivByZero": (0,)},
+        reason="divisors",
+    ),
+    Values(
+        r"veksNormalize_\w+",
+        parameters=r"vSub",
+        valid=(0, 1, -700, 20000),
+        reason="any value is valid",
+    ),
+    Values(
+        r"veksThreshold_LTValGTVal_\w+",
+        parameters=r"levelLT",
+        valid=(-1000, 0),
+        bad={"vekErrThreshBounds": (3000,)},
+        reason="not above levelGT",
+    ),
+    Values(
+        r"veksThreshold_LTValGTVal_\w+",
+        parameters=r"levelGT",
+        valid=(0, 2000),
+        bad={"vekErrThreshBounds": (-3000,)},
+        reason="not below levelLT",
+    ),
+    Values(
+        r"veksThreshold(_(LT|GT)(Val)?)?_\d+[sf]c(_I)?|veksThreshold_(LTAbs|GTAbs|LTInv)_\w+",
+        parameters=r"level",
+        valid=(0, 1, 2000, 20000),
+        bad={"vekErrThreshNegLevel": (-1, -20000)},
+        reason="levels of magnitudes",
+    ),
+    Values(
+        r"veksThreshold\w*",
+        parameters=r"level|value\w*",
+        valid=(0, 1, -2000, 20000),
+        reason="any value is valid",
+    ),
+    Values(
+        r"veksThreshold_\w+",
+        parameters=r"relOp",
+        valid=(0, 4),
+        bad={"vekErrBadArg": (1, 2, 3, 5, -1, INT_MIN)},
+        reason="one of two comparisons",
     ),
 )

@@ -80,14 +80,17 @@ class Swept:
         return vectors, [element for role, element in both if role == "scalar"]
 
     def is_in_place(self):
-        return "sourceDestination" in self.roles or re.search(r"_I(?=_|$)", self.name)
+        return "sourceDestination" in self.roles or self.out_of_place_name() != self.name
+
+    def out_of_place_name(self):
+        return re.sub(r"_I(?=_|$)|(?<=_)I(?=Sfs$)", "", self.name)
 
 
 def partner_index(swept, table, book):
     """Gives the position of the out-of-place form of `swept`, or None if there need not be one."""
     if not swept.is_in_place() or book.find(NoPartner, swept.function):
         return None
-    name = re.sub(r"_I(?=_|$)|(?<=_)I(?=Sfs$)", "", swept.name)
+    name = swept.out_of_place_name()
     for index, other in enumerate(table):
         if other.name == name and other is not swept and other.inputs() == swept.inputs():
             return index

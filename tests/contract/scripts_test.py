@@ -105,6 +105,8 @@ class GenerateTest(unittest.TestCase):
         self.generate(in_place, NoPartner("veksNot_8u_I", reason="alone"))
         partner = "VEKS_API VekStatus veksNot_8u(const Vek8u* pSrc, Vek8u* pDst, int len);"
         self.assertIn("&kFunctions[0]", self.generate(partner + in_place))
+        scaled = (partner + in_place).replace("8u(", "8u_Sfs(").replace("8u_I(", "8u_ISfs(")
+        self.assertIn("&kFunctions[0]", self.generate(scaled))
 
     def test_an_exception_that_matches_nothing_is_an_error(self):
         text = "VEKS_API VekStatus veksZero_8u(Vek8u* pDst, int len);"
