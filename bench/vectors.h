@@ -44,6 +44,11 @@ constexpr Pattern notZero() {
   return {~uint64_t{0}, bitOfEach(sizeof(T), 0)};
 }
 
+// Magnitudes of double from 2^-15 on, not from 2^-255 on: what signals have.
+constexpr Pattern ordinaryDoubles() {
+  return {~uint64_t{0}, uint64_t{0xF} << 56};
+}
+
 // The contents of the sources; of the destination too, which is an input in place.
 struct Content {
   Pattern src1;

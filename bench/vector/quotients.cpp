@@ -9,7 +9,8 @@ void addCases() {
   binary<Div>(VEKS_BENCH_NAMED(veksDiv_32f));
   binary<Div>(VEKS_BENCH_NAMED(veksDiv_64f));
   binary<Div>(VEKS_BENCH_NAMED(veksDiv_32fc), {{}, withinRelative<Vek32fc>(1e-6)});
-  binary<Div>(VEKS_BENCH_NAMED(veksDiv_64fc), {{}, withinRelative<Vek64fc>(1e-14)});
+  binary<Div>(VEKS_BENCH_NAMED(veksDiv_64fc),
+              {{ordinaryDoubles(), ordinaryDoubles(), {}}, withinRelative<Vek64fc>(1e-14)});
   scaledTwo<Div>(VEKS_BENCH_NAMED(veksDiv_8u_Sfs), 0, {{notZero<Vek8u>(), {}, {}}, nullptr});
   scaledTwo<Div>(VEKS_BENCH_NAMED(veksDiv_16u_Sfs), 0, {{notZero<Vek16u>(), {}, {}}, nullptr});
   scaledTwo<Div>(VEKS_BENCH_NAMED(veksDiv_16s_Sfs), 0, {{notZero<Vek16s>(), {}, {}}, nullptr});

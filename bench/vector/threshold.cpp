@@ -49,7 +49,7 @@ void addCases() {
   thresholdInverse(VEKS_BENCH_NAMED(veksThreshold_LTInv_64f), {{}, withinRelative<Vek64f>(3e-16)});
   thresholdInverse(VEKS_BENCH_NAMED(veksThreshold_LTInv_32fc), {{}, withinRelative<Vek32fc>(1e-6)});
   thresholdInverse(VEKS_BENCH_NAMED(veksThreshold_LTInv_64fc),
-                   {{}, withinRelative<Vek64fc>(1e-14)});
+                   {{ordinaryDoubles(), {}, {}}, withinRelative<Vek64fc>(1e-14)});
 }
 
 const VectorSuite suite(Sizes::kElements, addCases);

@@ -34,8 +34,9 @@ constexpr int kTargetsOfBuild = sizeof(kTargets) / sizeof(kTargets[0]);
 // Runs before the initialisers of ordinary static objects, whose code may already call veks.
 __attribute__((constructor(101))) void chooseTarget() {
   activeTarget = targetCount() - 1;
+  // Larger caches are shared by the many cores of a server, and no core fills them fast.
   const size_t cache = largestCacheBytes();
-  if (cache > 0) streamingBytes = cache;
+  if (cache > 0 && cache < streamingBytes) streamingBytes = cache;
 }
 
 }  // namespace

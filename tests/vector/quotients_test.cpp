@@ -278,6 +278,28 @@ void checkComplexDivision(VekStatus (*out)(const C*, const C*, C*, int),
   });
 }
 
+// Neighbours near the ends of the range change nothing.
+TEST(Quotients, ComplexElementsAreIndependent) {
+  std::mt19937_64 random(12);
+  std::uniform_real_distribution<Vek64f> parts(-2, 2);
+  std::vector<Vek64fc> a(64);
+  std::vector<Vek64fc> b(64);
+  for (size_t i = 0; i < a.size(); ++i) {
+    a[i] = {parts(random), parts(random)};
+    b[i] = {parts(random), parts(random)};
+  }
+  onEveryTarget([&] {
+    std::vector<Vek64fc> alone(64);
+    ASSERT_EQ(veksDiv_64fc(a.data(), b.data(), alone.data(), 64), vekStsOk);
+    std::vector<Vek64fc> divisors = a;
+    for (size_t i = 0; i < a.size(); i += 3) divisors[i].im = i % 2 == 0 ? 1e-310 : 1e300;
+    std::vector<Vek64fc> beside(64);
+    ASSERT_EQ(veksDiv_64fc(divisors.data(), b.data(), beside.data(), 64), vekStsOk);
+    for (size_t i = 0; i < a.size(); i += 3) beside[i] = alone[i];
+    EXPECT_TRUE(sameBits(alone, beside));
+  });
+}
+
 TEST(Quotients, ComplexFloatingPoint) {
   checkComplexDivision(veksDiv_32fc, veksDiv_32fc_I, 250, 0x1p-23L);
   checkComplexDivision(veksDiv_64fc, veksDiv_64fc_I, 2040, 0x1p-50L);

@@ -87,10 +87,22 @@ HWY_INLINE V wideComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   return hn::Mul(scaled, hn::BitCast(d, hn::Add(exponentOfOne, hn::Sub(back, half))));
 }
 
+// Whether all parts are far from the ends of the range. Powers of two then change no bit of a
+// quotient, and need not be applied.
+template <class D, class V>
+HWY_INLINE bool areOrdinary(D d, V v) {
+  const V magnitude = hn::Abs(v);
+  return hn::AllTrue(
+      d, hn::And(hn::Ge(magnitude, hn::Set(d, 0x1p-200)), hn::Le(magnitude, hn::Set(d, 0x1p200))));
+}
+
 struct DivideComplex {
   bool* zeroSeen;
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b) const {
+    if (HWY_LIKELY(areOrdinary(d, a) && areOrdinary(d, b))) {
+      return plainComplexQuotient<Quotients::kFast>(d, a, b, *zeroSeen);
+    }
     return wideComplexQuotient(d, a, b, *zeroSeen);
   }
 };

@@ -84,6 +84,32 @@ HWY_INLINE auto toInt32(D d, V v) {
   }
 }
 
+#if HWY_TARGET <= HWY_AVX3
+
+template <Rounding rounding>
+HWY_INLINE __m128i convertRawTo64(__m128d v) {
+  return rounding == Rounding::kTruncate ? _mm_cvttpd_epi64(v) : _mm_cvtpd_epi64(v);
+}
+template <Rounding rounding>
+HWY_INLINE __m256i convertRawTo64(__m256d v) {
+  return rounding == Rounding::kTruncate ? _mm256_cvttpd_epi64(v) : _mm256_cvtpd_epi64(v);
+}
+template <Rounding rounding>
+HWY_INLINE __m512i convertRawTo64(__m512d v) {
+  return rounding == Rounding::kTruncate ? _mm512_cvttpd_epi64(v) : _mm512_cvtpd_epi64(v);
+}
+
+// Beyond the range and for NaN, the instruction gives the least integer.
+template <Rounding rounding, class D, class V>
+HWY_INLINE auto toInt64(D d, V v) {
+  const hn::RebindToSigned<D> di;
+  const hn::Vec<decltype(di)> integers{convertRawTo64<rounding>(v.raw)};
+  const auto tooLarge = hn::VecFromMask(d, hn::Ge(v, hn::Set(d, 0x1p63)));
+  return hn::Xor(integers, hn::BitCast(di, tooLarge));
+}
+
+#else
+
 // Lanes of double as integers of 64 bits: two halves of 32 bits, which sums with large constants
 // have as their lowest bits.
 template <Rounding rounding, class D, class V>
@@ -101,6 +127,7 @@ HWY_INLINE auto toInt64(D d, V v) {
   return hn::Xor(hn::Or(hn::ShiftLeft<32>(highBits), lowBits), tooLarge);
 }
 
+#endif
 #endif
 
 // The floats of `source` as lanes of T.
