@@ -102,7 +102,8 @@ TYPED_TEST(ScaleRule, IsExact) {
   std::vector<Wide> scaled(src.size());
   for (int s : scaleFactors()) {
     SCOPED_TRACE("scale factor " + std::to_string(s));
-    for (size_t i = 0; i < src.size(); ++i) wanted[i] = static_cast<Wide>(expected<Dst, Wide>(src[i], s));
+    for (size_t i = 0; i < src.size(); ++i)
+      wanted[i] = static_cast<Wide>(expected<Dst, Wide>(src[i], s));
 
     const Scale scale = chooseScale<Dst>(s, kMagnitude<Wide>);
     for (size_t i = 0; i < src.size(); ++i)

@@ -3,10 +3,10 @@
  * Element-wise arithmetic. A destination may be one of its sources (the `_I` forms are that case);
  * other overlaps are not allowed. Results are the same on every processor.
  *
- * Results of integers (the forms with `scaleFactor`) are exact, then multiplied by `2^-scaleFactor`,
- * rounded to nearest with ties to even, and saturated to the type of the destination; see
- * docs/scaling.md. Floating-point results are rounded as IEEE 754 says, unless an operation tells
- * otherwise; overflow gives infinity.
+ * Results of integers (the forms with `scaleFactor`) are exact, then multiplied by
+ * `2^-scaleFactor`, rounded to nearest with ties to even, and saturated to the type of the
+ * destination; see docs/scaling.md. Floating-point results are rounded as IEEE 754 says, unless an
+ * operation tells otherwise; overflow gives infinity.
  */
 #ifndef VEKS_VECTOR_ARITHMETIC_H
 #define VEKS_VECTOR_ARITHMETIC_H
