@@ -41,29 +41,6 @@ HWY_INLINE auto nearestInt32(D d, V v) {
   }
 }
 
-// Lanes of double rounded to float; beyond its range, infinity.
-template <class D, class V>
-HWY_INLINE hn::Vec<D> demoteToFloat(D d, V v) {
-#if HWY_TARGET == HWY_EMU128
-  hn::Vec<D> floats = hn::Zero(d);
-  for (size_t i = 0; i < MaxLanes(d); ++i) floats.raw[i] = static_cast<float>(v.raw[i]);
-  return floats;
-#else
-  return hn::DemoteTo(d, v);
-#endif
-}
-
-// v between min and max, NaN as min.
-template <class D, class V>
-HWY_INLINE V clampNumbers(D d, V v, V min, V max) {
-  (void)d;
-#if HWY_TARGET == HWY_EMU128
-  return hn::Min(hn::IfThenElse(hn::Gt(v, min), v, min), max);
-#else
-  return hn::Min(hn::Max(v, min), max);
-#endif
-}
-
 // 2^-scaleFactor, or the nearest power of two that is a normal number. Between products or
 // quotients of integers and destinations of integers, the difference is lost in rounding and
 // saturation.

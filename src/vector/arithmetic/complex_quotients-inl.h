@@ -118,7 +118,7 @@ struct ComplexQuotientsInDouble {
       const hn::Rebind<double, decltype(dPart)> dd;
       const auto a = hn::PromoteTo(dd, hn::LoadU(dPart, divisors + k));
       const auto b = hn::PromoteTo(dd, hn::LoadU(dPart, dividends + k));
-      return demoteToFloat(dPart, plainComplexQuotient<Quotients::kFast>(dd, a, b, *zeroSeen));
+      return demoteFloats(dPart, plainComplexQuotient<Quotients::kFast>(dd, a, b, *zeroSeen));
     });
   }
 };

@@ -7,25 +7,21 @@
 #endif
 
 #include "core/loops-inl.h"
-#include "core/round-inl.h"
-#include "core/widen-inl.h"
+#include "vector/conversion/rounded-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
-struct FloatsAsShorts {
+struct Floats {
   const float* src;
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return inParts<float>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
-      const hn::Rebind<float, decltype(dPart)> df;
-      const auto clamped =
-          clampNumbers(df, hn::LoadU(df, src + k), hn::Set(df, -32768.0F), hn::Set(df, 32767.0F));
-      return hn::DemoteTo(dPart, nearestInt32(df, clamped));
-    });
+    return hn::LoadU(d, src + i);
   }
 };
+
+using FloatsAsShorts = RoundedFloats<Rounding::kNearest, int16_t, float, Floats>;
 
 // Frames of a group of channels that are converted at a time.
 constexpr size_t kBlock = 256;
@@ -41,7 +37,7 @@ HWY_INLINE void joinGroup(const float* const* src, size_t start, size_t frames, 
                           size_t stride) {
   int16_t converted[kChannels][kBlock];
   for (size_t k = 0; k < kChannels; ++k) {
-    produceCompact(FloatsAsShorts{src[k] + start}, converted[k], frames, false);
+    produceCompact(FloatsAsShorts{{src[k] + start}}, converted[k], frames, false);
   }
   for (size_t n = 0; n < frames; ++n) {
     GroupOfShorts<kChannels> group;

@@ -8,6 +8,7 @@
 
 #include "core/round-inl.h"
 #include "vector/arithmetic/sums-inl.h"
+#include "vector/conversion/rounded-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace veks {
@@ -190,30 +191,26 @@ inline VekStatus AccumulatePromotedScaled(const int16_t* src1, const int16_t* sr
   });
 }
 
-// Products in single precision, scaled without leaving its range on the way, as 16-bit integers.
-struct ProductsAsIntegers {
+// Products in single precision, scaled without leaving its range on the way.
+struct ScaledFloatProducts {
   const float* src;
   float val;
   float factor1;
   float factor2;
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return inParts<float>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
-      const hn::Rebind<float, decltype(dPart)> df;
-      const auto product = hn::Mul(hn::LoadU(df, src + k), hn::Set(df, val));
-      const auto scaled = hn::Mul(hn::Mul(product, hn::Set(df, factor1)), hn::Set(df, factor2));
-      const auto clamped = clampNumbers(df, scaled, hn::Set(df, -32768.0F), hn::Set(df, 32767.0F));
-      return hn::DemoteTo(dPart, nearestInt32(df, clamped));
-    });
+    const auto product = hn::Mul(hn::LoadU(d, src + i), hn::Set(d, val));
+    return hn::Mul(hn::Mul(product, hn::Set(d, factor1)), hn::Set(d, factor2));
   }
 };
 
 inline VekStatus MulFloatScaled(const float* src, float val, int16_t* dst, size_t n,
                                 int scaleFactor) {
   const int half = scaleFactor / 2;
-  const ProductsAsIntegers body{src, val, scaleMultiplier<float>(half),
-                                scaleMultiplier<float>(scaleFactor - half)};
-  produceCompact(body, dst, n, false);
+  const ScaledFloatProducts products{src, val, scaleMultiplier<float>(half),
+                                     scaleMultiplier<float>(scaleFactor - half)};
+  using Body = RoundedFloats<Rounding::kNearest, int16_t, float, ScaledFloatProducts>;
+  produceCompact(Body{products}, dst, n, false);
   return vekStsOk;
 }
 

@@ -107,7 +107,7 @@ struct ComplexFloatRoots {
     return inParts<double>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
       const hn::Rebind<double, decltype(dPart)> dd;
       const auto v = hn::PromoteTo(dd, hn::LoadU(dPart, src + k));
-      return demoteToFloat(dPart, complexRoot(dd, v, hn::DupOdd(v), hn::Set(dd, 1.0)));
+      return demoteFloats(dPart, complexRoot(dd, v, hn::DupOdd(v), hn::Set(dd, 1.0)));
     });
   }
 };
