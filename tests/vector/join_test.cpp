@@ -53,20 +53,24 @@ TEST(RoundedProducts, AreScaledWithoutOverflow) {
 }
 
 TEST(Join, InterleavesEveryNumberOfChannels) {
-  const std::vector<Vek32f> all = samples(9 * 600);
+  constexpr size_t kLongest = 600;
+  const std::vector<Vek32f> all = samples(9 * kLongest);
   onEveryTarget([&] {
-    for (int channels = 1; channels <= 9; ++channels) {
-      for (int len : {1, 2, 7, 67, 255, 256, 257, 600}) {
-        std::vector<const Vek32f*> src;
-        for (int k = 0; k < channels; ++k) src.push_back(&all[static_cast<size_t>(600 * k)]);
-        const size_t n = static_cast<size_t>(len * channels);
+    for (size_t channels = 1; channels <= 9; ++channels) {
+      for (size_t len : {size_t{1}, size_t{2}, size_t{7}, size_t{67}, size_t{255}, size_t{256},
+                         size_t{257}, kLongest}) {
+        std::vector<const Vek32f*> src(channels);
+        for (size_t k = 0; k < channels; ++k) src[k] = &all[kLongest * k];
+        const size_t n = len * channels;
         std::vector<Vek16s> expected(n + 1, 77);
         for (size_t i = 0; i < n; ++i) {
           const size_t channel = i % src.size();
           expected[i] = toShort(src[channel][i / src.size()], 0);
         }
         std::vector<Vek16s> dst(n + 1, 77);
-        ASSERT_EQ(veksJoin_32f16s_D2L(src.data(), channels, len, dst.data()), vekStsOk);
+        ASSERT_EQ(veksJoin_32f16s_D2L(src.data(), static_cast<int>(channels), static_cast<int>(len),
+                                      dst.data()),
+                  vekStsOk);
         ASSERT_TRUE(sameBits(expected, dst)) << channels << " channels of " << len;
       }
     }

@@ -190,10 +190,8 @@ TEST(MixedArithmetic, AddsInPlace) {
 template <class T>
 void checkAbsolute(VekStatus (*out)(const T*, T*, int), VekStatus (*in)(T*, int)) {
   std::vector<T> src = operands<T>(false);
-  std::vector<T> expected;
-  for (T x : src) {
-    expected.push_back(x < 0 ? scaled<T>(-exact(x), 0) : x);
-  }
+  std::vector<T> expected = src;
+  for (T& x : expected) x = x < 0 ? scaled<T>(-exact(x), 0) : x;
   onEveryTarget([&] {
     std::vector<T> dst(src.size());
     ASSERT_EQ(out(src.data(), dst.data(), static_cast<int>(src.size())), vekStsOk);

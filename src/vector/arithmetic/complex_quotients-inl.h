@@ -17,13 +17,15 @@ namespace HWY_NAMESPACE {
 // longer.
 template <class D, class V>
 HWY_INLINE V reciprocalOfPairs(D d, V v) {
-  if constexpr (MaxLanes(D()) < 4) {
-    return hn::Div(hn::Set(d, 1.0), v);
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) * MaxLanes(D()) <= 16) {
+    return hn::Div(hn::Set(d, T{1}), v);
   } else {
     const hn::Half<D> dh;
     const auto single = hn::LowerHalf(dh, hn::ConcatEven(d, v, v));
-    const auto inverse = hn::Div(hn::Set(dh, 1.0), single);
-    alignas(64) static constexpr int64_t kTwice[] = {0, 0, 1, 1, 2, 2, 3, 3};
+    const auto inverse = hn::Div(hn::Set(dh, T{1}), single);
+    alignas(64) static constexpr hwy::MakeSigned<T> kTwice[] = {0, 0, 1, 1, 2, 2, 3, 3,
+                                                                4, 4, 5, 5, 6, 6, 7, 7};
     const auto indices = hn::SetTableIndices(d, kTwice);
     return hn::TableLookupLanes(hn::ZeroExtendVector(d, inverse), indices);
   }
@@ -32,16 +34,36 @@ HWY_INLINE V reciprocalOfPairs(D d, V v) {
 // Whether quotients are rounded once, or come from a reciprocal, with three roundings.
 enum class Quotients { kRounded, kFast };
 
+// conj(a) b
+template <class D, class V>
+HWY_INLINE V productWithConjugate(D d, V a, V b) {
+  const V straight = hn::Mul(b, hn::DupEven(a));
+  const V crossed = hn::Mul(swapParts(d, b), hn::DupOdd(a));
+#if HWY_TARGET == HWY_AVX3
+  // A sum in even lanes and a difference in odd ones; the factor 1 leaves one rounding.
+  if constexpr (std::is_same_v<V, hn::Vec512<float>>) {
+    return V{_mm512_fmsubadd_ps(straight.raw, _mm512_set1_ps(1), crossed.raw)};
+  } else if constexpr (std::is_same_v<V, hn::Vec512<double>>) {
+    return V{_mm512_fmsubadd_pd(straight.raw, _mm512_set1_pd(1), crossed.raw)};
+  }
+#endif
+  return subtractAdd(d, straight, hn::Neg(crossed));
+}
+
+// |a|^2 in both places
+template <class D, class V>
+HWY_INLINE V squaredMagnitude(D d, V a) {
+  const V squares = hn::Mul(a, a);
+  return hn::Add(squares, swapParts(d, squares));
+}
+
 // b / a by conj(a) b / |a|^2. Where a is 0, b is divided by +0 part by part.
 template <Quotients quotients, class D, class V>
 HWY_INLINE V plainComplexQuotient(D d, V a, V b, bool& zeroSeen) {
-  const V squares = hn::Mul(a, a);
-  const V norm = hn::Add(squares, swapParts(d, squares));
-  const V crossed = hn::Mul(swapParts(d, b), hn::DupOdd(a));
-  const V product = subtractAdd(d, hn::Mul(b, hn::DupEven(a)), hn::Neg(crossed));
+  const V norm = squaredMagnitude(d, a);
   const auto zero = hn::Eq(norm, hn::Zero(d));
   zeroSeen |= !hn::AllFalse(d, zero);
-  const V dividend = hn::IfThenElse(zero, b, product);
+  const V dividend = hn::IfThenElse(zero, b, productWithConjugate(d, a, b));
   if constexpr (quotients == Quotients::kRounded) {
     return hn::Div(dividend, norm);
   } else {
@@ -49,20 +71,43 @@ HWY_INLINE V plainComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   }
 }
 
-// Exponents as the bits of powers of two.
-constexpr int64_t kExponentOne = int64_t{1} << 52;
-constexpr int64_t kExponentBits = 0x7FF * kExponentOne;
+// What the scaling of quotients needs to know of a type.
+template <class T>
+struct Range;
+
+template <>
+struct Range<float> {
+  static constexpr int32_t kExponentOne = 1 << 23;
+  static constexpr int32_t kExponentBits = 0xFF * kExponentOne;
+  static constexpr float kHuge = 0x1p123F;
+  static constexpr float kSmall = 0x1p-60F;
+  static constexpr float kRaise = 0x1p64F;
+  static constexpr float kOrdinary = 0x1p31F;
+  static constexpr float kLeastQuotient = 0x1p-90F;
+};
+
+template <>
+struct Range<double> {
+  static constexpr int64_t kExponentOne = int64_t{1} << 52;
+  static constexpr int64_t kExponentBits = 0x7FF * kExponentOne;
+  static constexpr double kHuge = 0x1p1019;
+  static constexpr double kSmall = 0x1p-800;
+  static constexpr double kRaise = 0x1p200;
+  static constexpr double kOrdinary = 0x1p255;
+  static constexpr double kLeastQuotient = 0x1p-700;
+};
 
 // 2^-e, where 2^e is the power of two just below the larger part, or the nearest normal number.
 template <class D, class V>
 HWY_INLINE V inverseMagnitude(D d, V v) {
-  const hn::Repartition<int64_t, D> di;
+  using R = Range<hn::TFromD<D>>;
+  const hn::RebindToSigned<D> di;
   const V magnitude = hn::Abs(v);
   const V larger = hn::Max(magnitude, swapParts(d, magnitude));
-  const auto exponent = hn::And(hn::BitCast(di, larger), hn::Set(di, kExponentBits));
+  const auto exponent = hn::And(hn::BitCast(di, larger), hn::Set(di, R::kExponentBits));
   // Infinity gives a negative number here.
-  const auto inverse = hn::Sub(hn::Set(di, 2046 * kExponentOne), exponent);
-  return hn::Max(hn::BitCast(d, inverse), hn::BitCast(d, hn::Set(di, kExponentOne)));
+  const auto inverse = hn::Sub(hn::Set(di, R::kExponentBits - R::kExponentOne), exponent);
+  return hn::Max(hn::BitCast(d, inverse), hn::BitCast(d, hn::Set(di, R::kExponentOne)));
 }
 
 // The same without overflow or underflow on the way: the divisor is brought near 1, the dividend
@@ -70,73 +115,63 @@ HWY_INLINE V inverseMagnitude(D d, V v) {
 // number.
 template <class D, class V>
 HWY_INLINE V wideComplexQuotient(D d, V a, V b, bool& zeroSeen) {
-  const hn::Repartition<int64_t, D> di;
+  using T = hn::TFromD<D>;
+  using R = Range<T>;
+  const hn::RebindToSigned<D> di;
   const V scaleA = inverseMagnitude(d, a);
   const V magnitudeB = hn::Abs(b);
   const V largerB = hn::Max(magnitudeB, swapParts(d, magnitudeB));
-  const V one = hn::Set(d, 1.0);
-  const V lowered = hn::IfThenElse(hn::Gt(largerB, hn::Set(d, 0x1p1019)), hn::Set(d, 0x1p-8), one);
+  const V one = hn::Set(d, T{1});
+  const V lowered =
+      hn::IfThenElse(hn::Gt(largerB, hn::Set(d, R::kHuge)), hn::Set(d, T{1} / 256), one);
   const V scaleB =
-      hn::IfThenElse(hn::Lt(largerB, hn::Set(d, 0x1p-800)), hn::Set(d, 0x1p200), lowered);
+      hn::IfThenElse(hn::Lt(largerB, hn::Set(d, R::kSmall)), hn::Set(d, R::kRaise), lowered);
   const V quotient =
       plainComplexQuotient<Quotients::kFast>(d, hn::Mul(a, scaleA), hn::Mul(b, scaleB), zeroSeen);
   const auto back = hn::Sub(hn::BitCast(di, scaleA), hn::BitCast(di, scaleB));
-  const auto half = hn::And(hn::ShiftRight<1>(back), hn::Set(di, -kExponentOne));
+  const auto half = hn::And(hn::ShiftRight<1>(back), hn::Set(di, -R::kExponentOne));
   const auto exponentOfOne = hn::BitCast(di, one);
   const V scaled = hn::Mul(quotient, hn::BitCast(d, hn::Add(exponentOfOne, half)));
   return hn::Mul(scaled, hn::BitCast(d, hn::Add(exponentOfOne, hn::Sub(back, half))));
 }
 
-// Whether all parts are far from the ends of the range. Powers of two then change no bit of a
-// quotient, and need not be applied.
+// Whether all parts of both are far from zero and from the ends of the range.
 template <class D, class V>
-HWY_INLINE bool areOrdinary(D d, V v) {
-  const V magnitude = hn::Abs(v);
-  return hn::AllTrue(
-      d, hn::And(hn::Ge(magnitude, hn::Set(d, 0x1p-200)), hn::Le(magnitude, hn::Set(d, 0x1p200))));
+HWY_INLINE bool areOrdinary(D d, V a, V b) {
+  using R = Range<hn::TFromD<D>>;
+  const V least = hn::Set(d, 1 / R::kOrdinary);
+  const V most = hn::Set(d, R::kOrdinary);
+  const auto isOrdinary = [&](V v) HWY_ATTR {
+    const V magnitude = hn::Abs(v);
+    return hn::And(hn::Ge(magnitude, least), hn::Le(magnitude, most));
+  };
+  return hn::AllTrue(d, hn::And(isOrdinary(a), isOrdinary(b)));
 }
 
+// Where neither the operands nor the results come near the ends of the range, powers of two change
+// no bit of a quotient and need not be applied.
 struct DivideComplex {
   bool* zeroSeen;
   template <class D, class V>
   HWY_INLINE V operator()(D d, V a, V b) const {
-    if (HWY_LIKELY(areOrdinary(d, a) && areOrdinary(d, b))) {
-      return plainComplexQuotient<Quotients::kFast>(d, a, b, *zeroSeen);
+    if (HWY_LIKELY(areOrdinary(d, a, b))) {
+      const V inverse = reciprocalOfPairs(d, squaredMagnitude(d, a));
+      const V quotient = hn::Mul(productWithConjugate(d, a, b), inverse);
+      const V least = hn::Set(d, Range<hn::TFromD<D>>::kLeastQuotient);
+      if (HWY_LIKELY(hn::AllTrue(d, hn::Ge(hn::Abs(quotient), least)))) return quotient;
     }
     return wideComplexQuotient(d, a, b, *zeroSeen);
   }
 };
 
-// Products of float values are exact in double, and no result leaves its range.
-struct ComplexQuotientsInDouble {
-  const float* divisors;
-  const float* dividends;
-  bool* zeroSeen;
-  template <class D>
-  HWY_INLINE auto operator()(D d, size_t i) const {
-    return inParts<double>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
-      const hn::Rebind<double, decltype(dPart)> dd;
-      const auto a = hn::PromoteTo(dd, hn::LoadU(dPart, divisors + k));
-      const auto b = hn::PromoteTo(dd, hn::LoadU(dPart, dividends + k));
-      return demoteFloats(dPart, plainComplexQuotient<Quotients::kFast>(dd, a, b, *zeroSeen));
-    });
-  }
-};
-
-inline VekStatus DivComplexFloat(const Vek32fc* src1, const Vek32fc* src2, Vek32fc* dst, size_t n) {
+// dst[i] = src2[i] / src1[i], n complex values
+template <class C>
+VekStatus DivComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
+  using T = decltype(dst->re);
   bool zeroSeen = false;
-  const ComplexQuotientsInDouble body{reinterpret_cast<const float*>(src1),
-                                      reinterpret_cast<const float*>(src2), &zeroSeen};
-  produceCompact<2>(body, reinterpret_cast<float*>(dst), 2 * n, src1 == dst || src2 == dst);
-  return divisionStatus(zeroSeen);
-}
-
-inline VekStatus DivComplexDouble(const Vek64fc* src1, const Vek64fc* src2, Vek64fc* dst,
-                                  size_t n) {
-  bool zeroSeen = false;
-  const TwoSources<DivideComplex, double> body{
-      reinterpret_cast<const double*>(src1), reinterpret_cast<const double*>(src2), {&zeroSeen}};
-  produceCompact<2>(body, reinterpret_cast<double*>(dst), 2 * n, src1 == dst || src2 == dst);
+  const TwoSources<DivideComplex, T> body{
+      reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2), {&zeroSeen}};
+  produceCompact<2>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
   return divisionStatus(zeroSeen);
 }
 

@@ -41,19 +41,19 @@ VekStatus veksDiv_64f_I(const Vek64f* pSrc, Vek64f* pSrcDst, int len) {
 }
 
 VekStatus veksDiv_32fc(const Vek32fc* pSrc1, const Vek32fc* pSrc2, Vek32fc* pDst, int len) {
-  return mapTwo(VEKS_KERNEL(DivComplexFloat), pSrc1, pSrc2, pDst, len);
+  return mapTwo(VEKS_KERNEL(DivComplexTwo<Vek32fc>), pSrc1, pSrc2, pDst, len);
 }
 
 VekStatus veksDiv_32fc_I(const Vek32fc* pSrc, Vek32fc* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(DivComplexFloat), pSrc, pSrcDst, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(DivComplexTwo<Vek32fc>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksDiv_64fc(const Vek64fc* pSrc1, const Vek64fc* pSrc2, Vek64fc* pDst, int len) {
-  return mapTwo(VEKS_KERNEL(DivComplexDouble), pSrc1, pSrc2, pDst, len);
+  return mapTwo(VEKS_KERNEL(DivComplexTwo<Vek64fc>), pSrc1, pSrc2, pDst, len);
 }
 
 VekStatus veksDiv_64fc_I(const Vek64fc* pSrc, Vek64fc* pSrcDst, int len) {
-  return mapTwo(VEKS_KERNEL(DivComplexDouble), pSrc, pSrcDst, pSrcDst, len);
+  return mapTwo(VEKS_KERNEL(DivComplexTwo<Vek64fc>), pSrc, pSrcDst, pSrcDst, len);
 }
 
 VekStatus veksDiv_8u_Sfs(const Vek8u* pSrc1, const Vek8u* pSrc2, Vek8u* pDst, int len,

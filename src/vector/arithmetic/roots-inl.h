@@ -126,7 +126,7 @@ struct ComplexRoot {
     const auto one = hn::BitCast(di, hn::Set(d, 1.0));
     const auto inverse = hn::BitCast(di, inverseMagnitude(d, v));
     // With its bias of 1023, an even exponent is odd.
-    const auto unit = hn::Set(di, kExponentOne);
+    const auto unit = hn::Set(di, Range<double>::kExponentOne);
     const auto scale = hn::Or(hn::Sub(inverse, unit), unit);
     const auto halfExponent = hn::ShiftRight<1>(hn::Sub(scale, one));
     const V rootOfScale = hn::BitCast(d, hn::Add(one, halfExponent));

@@ -19,10 +19,9 @@ extern "C" {
  *
  * Floating-point quotients are correctly rounded. A zero divisor, of either sign, gives infinity
  * with the sign of the dividend, and NaN for a zero dividend. Complex quotients are `b * conj(a) /
- * |a|^2`, computed in double for Vek32fc (each part within 1 ulp, or an error of 2^-50 of the
- * quotient's magnitude) and with scaled operands for Vek64fc, so that nothing overflows or
- * underflows on the way (error at most 2^-50 of the quotient's magnitude); a zero divisor divides
- * both parts by zero as above, operands with infinite parts give NaN.
+ * |a|^2`, with operands scaled where that would overflow or underflow on the way, in the precision
+ * of the type: an error of at most 2^-21 (Vek32fc) or 2^-50 (Vek64fc) of the quotient's magnitude. A
+ * zero divisor divides both parts by zero as above, operands with infinite parts give NaN.
  *
  * Integer quotients of 8 and 16 bits are computed in single precision, multiplied by
  * `2^-scaleFactor`, rounded to nearest with ties to even and saturated. Those of 32 bits and of
