@@ -137,20 +137,17 @@ HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace)
       return produceCompactShort<kGroup>(hn::Half<decltype(d)>(), body, dst, n);
     }
   }
+  const auto last = body(d, n - kLanes);
+  hn::StoreU(body(d, 0), d, dst);
   // In place, no vector but the last may overlap another.
   const size_t boundary = lanesToBoundary<kGroup>(dst, kLanes);
-  const bool streaming = wantsStreaming<kGroup>(dst, n, inPlace);
-  const auto last = body(d, n - kLanes);
-  for (size_t i = 0; i + kLanes <= n;
-       i += i == 0 && !inPlace && boundary != 0 ? boundary : kLanes) {
-    const auto v = body(d, i);
-    if (streaming && i != 0) {
-      hn::Stream(v, d, dst + i);
-    } else {
-      hn::StoreU(v, d, dst + i);
-    }
+  size_t i = inPlace || boundary == 0 ? kLanes : boundary;
+  if (wantsStreaming<kGroup>(dst, n, inPlace)) {
+    for (; i + kLanes <= n; i += kLanes) hn::Stream(body(d, i), d, dst + i);
+    hwy::FlushStream();
+  } else {
+    for (; i + kLanes <= n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
   }
-  if (streaming) hwy::FlushStream();
   hn::StoreU(last, d, dst + n - kLanes);
 }
 

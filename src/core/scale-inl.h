@@ -33,15 +33,15 @@ HWY_INLINE V saturateTo(D d, V r) {
 }
 
 // h + l / 2 to nearest, ties to even, where l is the lowest bit of `half`; the others are ignored.
-// Half a unit above the greatest value saturates.
-template <class D, class V>
+// Half a unit above the greatest value, which only differences reach, saturates.
+template <bool kIsDifference = false, class D, class V>
 HWY_INLINE V roundHalves(D d, V h, V half) {
   using T = hn::TFromD<D>;
   const V up = hn::And(hn::And(h, half), hn::Set(d, T{1}));
-  if constexpr (sizeof(T) <= 2) {
-    return hn::SaturatedAdd(h, up);
-  } else if constexpr (!std::is_signed_v<T>) {
+  if constexpr (!kIsDifference) {
     return hn::Add(h, up);
+  } else if constexpr (sizeof(T) <= 2) {
+    return hn::SaturatedAdd(h, up);
   } else {
     const V rounded = hn::Add(h, up);
     return hn::Add(rounded, hn::VecFromMask(d, hn::Gt(h, rounded)));

@@ -84,7 +84,7 @@ struct ScaledOperation<Sub> {
                   !std::is_signed_v<T>) {
       return scaleTo<path, T>(d, difference, bits);
     } else if constexpr (path == ScalePath::kHalve) {
-      return roundHalves(d, halfDifference(a, b), hn::Xor(a, b));
+      return roundHalves<true>(d, halfDifference(a, b), hn::Xor(a, b));
     } else {
       return roundShift(d, halfDifference(a, b), hn::Xor(a, b), bits - 1);
     }
