@@ -128,7 +128,9 @@ HWY_INLINE void produceCompactShort(D d, const Body& body, T* dst, size_t n) {
   }
 }
 
-template <size_t kGroup = 1, class T, class Body>
+// Where the body takes longer than memory does, as divisions do, stores past the caches would leave
+// their lines half full for too long.
+template <size_t kGroup = 1, bool kIsSlow = false, class T, class Body>
 HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace) {
   const hn::ScalableTag<T> d;
   constexpr size_t kLanes = MaxLanes(d);
@@ -142,7 +144,7 @@ HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace)
   // In place, no vector but the last may overlap another.
   const size_t boundary = lanesToBoundary<kGroup>(dst, kLanes);
   size_t i = inPlace || boundary == 0 ? kLanes : boundary;
-  if (wantsStreaming<kGroup>(dst, n, inPlace)) {
+  if (!kIsSlow && wantsStreaming<kGroup>(dst, n, inPlace)) {
     for (; i + kLanes <= n; i += kLanes) hn::Stream(body(d, i), d, dst + i);
     hwy::FlushStream();
   } else {

@@ -171,7 +171,7 @@ VekStatus DivComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
   bool zeroSeen = false;
   const TwoSources<DivideComplex, T> body{
       reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2), {&zeroSeen}};
-  produceCompact<2>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
+  produceCompact<2, true>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
   return divisionStatus(zeroSeen);
 }
 
@@ -204,7 +204,7 @@ struct ComplexIntegerQuotients {
 
 inline VekStatus divideComplexIntegers(const ComplexIntegerQuotients& body, Vek16sc* dst, size_t n,
                                        bool inPlace) {
-  produceCompact<2>(body, reinterpret_cast<int16_t*>(dst), 2 * n, inPlace);
+  produceCompact<2, true>(body, reinterpret_cast<int16_t*>(dst), 2 * n, inPlace);
   return divisionStatus(*body.zeroSeen);
 }
 

@@ -37,7 +37,7 @@ template <class T>
 VekStatus DivTwo(const T* src1, const T* src2, T* dst, size_t n) {
   bool zeroSeen = false;
   const TwoSources<Divide, T> body{src1, src2, {&zeroSeen}};
-  produceCompact(body, dst, n, src1 == dst || src2 == dst);
+  produceCompact<1, true>(body, dst, n, src1 == dst || src2 == dst);
   return divisionStatus(zeroSeen);
 }
 
@@ -46,7 +46,7 @@ template <class T>
 VekStatus DivConstantBy(const T* src, T val, T* dst, size_t n) {
   bool zeroSeen = false;
   const SourceAndConstant<Divide, T> body{src, val, {&zeroSeen}};
-  produceCompact(body, dst, n, src == dst);
+  produceCompact<1, true>(body, dst, n, src == dst);
   return divisionStatus(zeroSeen);
 }
 
@@ -105,7 +105,7 @@ VekStatus DivTwoScaled(const S1* src1, const S2* src2, T* dst, size_t n, int sca
   bool zeroSeen = false;
   const IntegerQuotients<F, S1, S2> body{src1, 0, src2, scaleMultiplier<F>(scaleFactor), &zeroSeen};
   const void* const out = dst;
-  produceCompact(body, dst, n, out == src1 || out == src2);
+  produceCompact<1, true>(body, dst, n, out == src1 || out == src2);
   return divisionStatus(zeroSeen);
 }
 
@@ -142,7 +142,8 @@ struct QuotientsOfConstant {
 
 inline VekStatus DivConstantByScaled(const uint16_t* src, uint16_t val, uint16_t* dst, size_t n) {
   bool zeroSeen = false;
-  produceCompact(QuotientsOfConstant{src, static_cast<float>(val), &zeroSeen}, dst, n, src == dst);
+  produceCompact<1, true>(QuotientsOfConstant{src, static_cast<float>(val), &zeroSeen}, dst, n,
+                          src == dst);
   return divisionStatus(zeroSeen);
 }
 
@@ -150,7 +151,7 @@ template <class F, class T>
 VekStatus DivByConstantScaled(const T* src, T val, T* dst, size_t n, int scaleFactor) {
   const IntegerQuotients<F, T, T> body{nullptr, static_cast<F>(val), src,
                                        scaleMultiplier<F>(scaleFactor), nullptr};
-  produceCompact(body, dst, n, src == dst);
+  produceCompact<1, true>(body, dst, n, src == dst);
   return vekStsOk;
 }
 

@@ -29,7 +29,7 @@ struct SquareRoot {
 template <class T>
 VekStatus SqrtOne(const T* src, T* dst, size_t n) {
   bool negativeSeen = false;
-  produceCompact(OneSource<SquareRoot, T>{src, {&negativeSeen}}, dst, n, src == dst);
+  produceCompact<1, true>(OneSource<SquareRoot, T>{src, {&negativeSeen}}, dst, n, src == dst);
   return rootStatus(negativeSeen);
 }
 
@@ -63,10 +63,10 @@ VekStatus SqrtScaled(const S* src, T* dst, size_t n, int scaleFactor) {
   const void* const out = dst;
   if (sizeof(S) <= 2 && scaleFactor >= 0) {
     const IntegerRoots<float, S> body{src, scaleMultiplier<float>(scaleFactor), &negativeSeen};
-    produceCompact(body, dst, n, out == src);
+    produceCompact<1, true>(body, dst, n, out == src);
   } else {
     const IntegerRoots<double, S> body{src, scaleMultiplier<double>(scaleFactor), &negativeSeen};
-    produceCompact(body, dst, n, out == src);
+    produceCompact<1, true>(body, dst, n, out == src);
   }
   return rootStatus(negativeSeen);
 }
@@ -113,8 +113,8 @@ struct ComplexFloatRoots {
 };
 
 inline VekStatus SqrtComplexFloat(const Vek32fc* src, Vek32fc* dst, size_t n) {
-  produceCompact<2>(ComplexFloatRoots{reinterpret_cast<const float*>(src)},
-                    reinterpret_cast<float*>(dst), 2 * n, src == dst);
+  produceCompact<2, true>(ComplexFloatRoots{reinterpret_cast<const float*>(src)},
+                          reinterpret_cast<float*>(dst), 2 * n, src == dst);
   return vekStsOk;
 }
 
@@ -137,8 +137,8 @@ struct ComplexRoot {
 };
 
 inline VekStatus SqrtComplexDouble(const Vek64fc* src, Vek64fc* dst, size_t n) {
-  produceCompact<2>(OneSource<ComplexRoot, double>{reinterpret_cast<const double*>(src)},
-                    reinterpret_cast<double*>(dst), 2 * n, src == dst);
+  produceCompact<2, true>(OneSource<ComplexRoot, double>{reinterpret_cast<const double*>(src)},
+                          reinterpret_cast<double*>(dst), 2 * n, src == dst);
   return vekStsOk;
 }
 
@@ -164,7 +164,7 @@ inline VekStatus SqrtComplexScaled(const Vek16sc* src, Vek16sc* dst, size_t n, i
   }
   const ComplexIntegerRoots body{reinterpret_cast<const int16_t*>(src),
                                  scaleMultiplier<double>(scaleFactor)};
-  produceCompact<2>(body, reinterpret_cast<int16_t*>(dst), 2 * n, src == dst);
+  produceCompact<2, true>(body, reinterpret_cast<int16_t*>(dst), 2 * n, src == dst);
   return vekStsOk;
 }
 
