@@ -128,8 +128,8 @@ HWY_INLINE void produceCompactShort(D d, const Body& body, T* dst, size_t n) {
   }
 }
 
-// Where the body takes longer than memory does, as divisions do, stores past the caches would leave
-// their lines half full for too long.
+// Where the body takes far longer than memory, as for quotients of short integers, stores past the
+// caches cost time.
 template <size_t kGroup = 1, bool kIsSlow = false, class T, class Body>
 HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace) {
   const hn::ScalableTag<T> d;

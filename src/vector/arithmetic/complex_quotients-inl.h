@@ -171,7 +171,7 @@ VekStatus DivComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
   bool zeroSeen = false;
   const TwoSources<DivideComplex, T> body{
       reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2), {&zeroSeen}};
-  produceCompact<2, true>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
+  produceCompact<2>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
   return divisionStatus(zeroSeen);
 }
 

@@ -37,7 +37,7 @@ template <class T>
 VekStatus DivTwo(const T* src1, const T* src2, T* dst, size_t n) {
   bool zeroSeen = false;
   const TwoSources<Divide, T> body{src1, src2, {&zeroSeen}};
-  produceCompact<1, true>(body, dst, n, src1 == dst || src2 == dst);
+  produceCompact(body, dst, n, src1 == dst || src2 == dst);
   return divisionStatus(zeroSeen);
 }
 
@@ -46,7 +46,7 @@ template <class T>
 VekStatus DivConstantBy(const T* src, T val, T* dst, size_t n) {
   bool zeroSeen = false;
   const SourceAndConstant<Divide, T> body{src, val, {&zeroSeen}};
-  produceCompact<1, true>(body, dst, n, src == dst);
+  produceCompact(body, dst, n, src == dst);
   return divisionStatus(zeroSeen);
 }
 

@@ -29,7 +29,7 @@ struct SquareRoot {
 template <class T>
 VekStatus SqrtOne(const T* src, T* dst, size_t n) {
   bool negativeSeen = false;
-  produceCompact<1, true>(OneSource<SquareRoot, T>{src, {&negativeSeen}}, dst, n, src == dst);
+  produceCompact(OneSource<SquareRoot, T>{src, {&negativeSeen}}, dst, n, src == dst);
   return rootStatus(negativeSeen);
 }
 
