@@ -20,8 +20,8 @@ extern "C" {
  * Floating-point quotients are correctly rounded. A zero divisor, of either sign, gives infinity
  * with the sign of the dividend, and NaN for a zero dividend. Complex quotients are `b * conj(a) /
  * |a|^2`, with operands scaled where that would overflow or underflow on the way, in the precision
- * of the type: an error of at most 2^-21 (Vek32fc) or 2^-50 (Vek64fc) of the quotient's magnitude. A
- * zero divisor divides both parts by zero as above, operands with infinite parts give NaN.
+ * of the type: an error of at most 2^-21 (Vek32fc) or 2^-50 (Vek64fc) of the quotient's magnitude.
+ * A zero divisor divides both parts by zero as above, operands with infinite parts give NaN.
  *
  * Integer quotients of 8 and 16 bits are computed in single precision, multiplied by
  * `2^-scaleFactor`, rounded to nearest with ties to even and saturated. Those of 32 bits and of
