@@ -1,0 +1,307 @@
+// The transforms of whole vectors, by length: N = rows * columns.
+//
+// Columns of the input, seen as a matrix of `rows` rows, are transformed in the lanes of vectors.
+// The results are multiplied by twiddle factors; blocks of them are transposed, so that the rows
+// can be transformed in lanes as well and end up in natural order.
+#if defined(VEKS_TRANSFORM_FFT_KERNELS_INL_H) == defined(HWY_TARGET_TOGGLE)
+#ifdef VEKS_TRANSFORM_FFT_KERNELS_INL_H
+#undef VEKS_TRANSFORM_FFT_KERNELS_INL_H
+#else
+#define VEKS_TRANSFORM_FFT_KERNELS_INL_H
+#endif
+
+#include "transform/fft/lanes-inl.h"
+#include "transform/fft/passes-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace veks {
+namespace HWY_NAMESPACE {
+
+// A block of as many frequencies of `kColumns` columns as there are lanes: their rows, twiddle
+// factors, then the transforms of the rows. row(l, t) gives vector t of the row whose frequency
+// belongs in lane l.
+template <size_t kColumns, Layout layout, class D, class Row, class Destination, class T>
+HWY_INLINE void transformBlock(D d, const Row& row, const T* w, const Destination& destination,
+                               size_t out, size_t outStep) {
+  constexpr size_t kLanes = MaxLanes(D());
+  Parts<hn::Vec<D>> x[kColumns];
+  each<kColumns / kLanes>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
+    Parts<hn::Vec<D>> y[kLanes];
+    each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+      const T* const at = w + (t * kLanes + l) * 2 * kLanes;
+      y[l] = times(row(l, t), hn::LoadU(d, at), hn::LoadU(d, at + kLanes));
+    });
+    transposeParts(d, y);
+    each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+      x[t * kLanes + laneOrder<T>(layout, kLanes, l)] = y[l];
+    });
+  });
+  Transform<kColumns>::run(d, x);
+  each<kColumns>([&](auto r) HWY_ATTR __attribute__((always_inline)) {
+    destination.store(d, x[Transform<kColumns>::at(r)], out + r * outStep);
+  });
+}
+
+// Short transforms without loops.
+template <size_t kRows, size_t kColumns, Layout layout, class D, class Source, class Destination,
+          class T>
+HWY_INLINE void transformSmall(D d, const Source& source, const Destination& destination,
+                               const T* w) {
+  constexpr size_t kLanes = MaxLanes(D());
+  constexpr size_t kTiles = kColumns / kLanes;
+  Parts<hn::Vec<D>> x[kTiles * kRows];
+  each<kTiles>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
+    each<kRows>([&](auto k) HWY_ATTR __attribute__((always_inline)) {
+      x[t * kRows + k] = source.load(d, k * kColumns + t * kLanes);
+    });
+    Transform<kRows>::run(d, x + t * kRows);
+  });
+  each<kRows / kLanes>([&](auto b) HWY_ATTR __attribute__((always_inline)) {
+    const auto row = [&](auto l, auto t) HWY_ATTR __attribute__((always_inline)) {
+      constexpr size_t k = b * kLanes + laneOrder<T>(layout, kLanes, l);
+      return x[t * kRows + Transform<kRows>::at(k)];
+    };
+    transformBlock<kColumns, layout>(d, row, w + b * kLanes * 2 * kColumns, destination, b * kLanes,
+                                     kRows);
+  });
+}
+
+// Transforms whose work memory fits in the caches: each pass works on all columns.
+template <size_t kColumns, Layout layout, class D, class Source, class Destination, class T>
+HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Source& source,
+                                const Destination& destination, T* work) {
+  constexpr size_t kLanes = MaxLanes(D());
+  constexpr size_t kRow = 2 * kColumns;
+  const FftPlan<T>& plan = *direction.plan;
+  const ColumnPasses<T>& passes = plan.columnPasses;
+  for (size_t t = 0; t < kColumns; t += kLanes) {
+    const StridedRows<Source> rows = {source, t, kColumns};
+    const WorkRows<T> workRows = {work + 2 * t, kRow};
+    transformColumns(d, rows, workRows, passes);
+  }
+  const uint32_t* rowOf = passes.rowOf;
+  const T* w = direction.twiddles;
+  for (size_t k = 0; k < plan.rows; k += kLanes) {
+    const auto row = [&](auto l, auto t) HWY_ATTR __attribute__((always_inline)) {
+      constexpr size_t kLane = laneOrder<T>(layout, kLanes, l);
+      const T* const at = work + rowOf[k + kLane] * kRow + t * 2 * kLanes;
+      return Parts<hn::Vec<D>>{hn::LoadU(d, at), hn::LoadU(d, at + kLanes)};
+    };
+    transformBlock<kColumns, layout>(d, row, w, destination, k, plan.rows);
+    w += kLanes * kRow;
+  }
+}
+
+// factor * exp(-2 pi i c k / N) of column c for all rows k: the real parts and the imaginary ones
+// in turn.
+template <class T>
+HWY_INLINE void columnFactors(const FftPlan<T>& plan, size_t column, T factor, T* factors) {
+  const size_t mask = (size_t{1} << plan.fineBits) - 1;
+  for (size_t k = 0; k < plan.rows; ++k) {
+    const size_t e = column * k;  // below N
+    const T* const fine = plan.fine + 2 * (e & mask);
+    const T* const coarse = plan.coarse + 2 * (e >> plan.fineBits);
+    factors[2 * k] = factor * (fine[0] * coarse[0] - fine[1] * coarse[1]);
+    factors[2 * k + 1] = factor * (fine[0] * coarse[1] + fine[1] * coarse[0]);
+  }
+}
+
+// Transforms past the caches, in two sweeps: bands of columns, then bands of rows, each through
+// work memory that stays in the caches.
+template <Layout layout, class D, class Source, class Destination, class T>
+HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Source& source,
+                              const Destination& destination, T* work) {
+  constexpr size_t kLanes = MaxLanes(D());
+  constexpr size_t kRow = 2 * kLanes;
+  const FftPlan<T>& plan = *direction.plan;
+  const size_t n = plan.rows * plan.columns;
+  T* const scratch = work + 2 * n;
+  T* const factors = scratch + kRow * HWY_MAX(plan.rows, plan.columns);
+  const WorkRows<T> scratchRows = {scratch, kRow};
+  const uint32_t* rowOf = plan.columnPasses.rowOf;
+  for (size_t c = 0; c < plan.columns; c += kLanes) {
+    const StridedRows<Source> rows = {source, c, plan.columns};
+    transformColumns(d, rows, scratchRows, plan.columnPasses);
+    columnFactors(plan, c, direction.factor, factors);
+    const T* w = direction.twiddles;
+    for (size_t k = 0; k < plan.rows; k += kLanes) {
+      Parts<hn::Vec<D>> x[kLanes];
+      each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+        constexpr size_t kLane = laneOrder<T>(layout, kLanes, l);
+        const T* const at = factors + 2 * (k + kLane);
+        const auto lanes = times(
+            Parts<hn::Vec<D>>{hn::LoadU(d, w + l * kRow), hn::LoadU(d, w + l * kRow + kLanes)},
+            hn::Set(d, at[0]), hn::Set(d, at[1]));
+        x[l] = times(scratchRows.load(d, rowOf[k + kLane]), lanes.re, lanes.im);
+      });
+      w += kLanes * kRow;
+      transposeParts(d, x);
+      T* const out = work + (k / kLanes * plan.columns + c) * kRow;
+      each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+        const WorkRows<T> outRows = {out, kRow};
+        outRows.store(d, x[l], laneOrder<T>(layout, kLanes, l));
+      });
+    }
+  }
+  for (size_t k = 0; k < plan.rows; k += kLanes) {
+    const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow};
+    const StridedRows<Destination> out = {destination, k, plan.rows};
+    transformColumnsTo(d, rows, scratchRows, out, plan.rowPasses);
+  }
+}
+
+// What the directions of plans call.
+template <class Ends, class T = typename Ends::Value>
+void RunPoint(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
+              T* /*work*/) {
+  const hn::CappedTag<T, 1> d;
+  const auto x = Ends::source(re, im).load(d, 0);
+  const auto factor = hn::Set(d, direction.factor);
+  Ends::destination(dstRe, dstIm)
+      .store(d, Parts<hn::Vec<decltype(d)>>{hn::Mul(x.re, factor), hn::Mul(x.im, factor)}, 0);
+}
+
+template <class Ends, class T = typename Ends::Value>
+void RunPair(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
+             T* /*work*/) {
+  const hn::CappedTag<T, 1> d;
+  const auto source = Ends::source(re, im);
+  const auto destination = Ends::destination(dstRe, dstIm);
+  const auto factor = hn::Set(d, direction.factor);
+  const auto x0 = source.load(d, 0);
+  const auto x1 = source.load(d, 1);
+  const auto sum = x0 + x1;
+  const auto difference = x0 - x1;
+  using P = Parts<hn::Vec<decltype(d)>>;
+  destination.store(d, P{hn::Mul(sum.re, factor), hn::Mul(sum.im, factor)}, 0);
+  destination.store(d, P{hn::Mul(difference.re, factor), hn::Mul(difference.im, factor)}, 1);
+}
+
+template <class Ends, size_t kLanes, size_t kRows, size_t kColumns, class T = typename Ends::Value>
+void RunSmall(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
+              T* /*work*/) {
+  const hn::CappedTag<T, kLanes> d;
+  transformSmall<kRows, kColumns, Ends::kLayout>(
+      d, Ends::source(re, im), Ends::destination(dstRe, dstIm), direction.twiddles);
+}
+
+template <class Ends, size_t kColumns, class T = typename Ends::Value>
+void RunMedium(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
+               T* work) {
+  transformMedium<kColumns, Ends::kLayout>(hn::ScalableTag<T>(), direction, Ends::source(re, im),
+                                           Ends::destination(dstRe, dstIm), work);
+}
+
+// Work memory on the stack is aligned, the caller's may not be.
+template <class Ends, size_t kColumns, size_t kPoints, class T = typename Ends::Value>
+void RunMediumOnStack(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe,
+                      T* dstIm, T* /*work*/) {
+  HWY_ALIGN T work[2 * kPoints];
+  RunMedium<Ends, kColumns>(direction, re, im, dstRe, dstIm, work);
+}
+
+template <class Ends, class T = typename Ends::Value>
+void RunLong(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
+             T* work) {
+  transformLong<Ends::kLayout>(hn::ScalableTag<T>(), direction, Ends::source(re, im),
+                               Ends::destination(dstRe, dstIm), work);
+}
+
+// Where values come from and go to.
+template <class T, bool kInverse>
+struct InterleavedEnds {
+  using Value = T;
+  static constexpr Layout kLayout = Layout::kInterleaved;
+  static HWY_INLINE InterleavedSource<T, kInverse> source(const T* re, const T* /*im*/) {
+    return {re};
+  }
+  static HWY_INLINE InterleavedDestination<T, kInverse> destination(T* re, T* /*im*/) {
+    return {re};
+  }
+};
+
+template <class T>
+struct SplitEnds {
+  using Value = T;
+  static constexpr Layout kLayout = Layout::kSplit;
+  static HWY_INLINE SplitSource<T> source(const T* re, const T* im) {
+    return {re, im};
+  }
+  static HWY_INLINE SplitDestination<T> destination(T* re, T* im) {
+    return {re, im};
+  }
+};
+
+constexpr int kFirstLongOrder = 17;
+constexpr size_t kStackPoints = 1024;
+
+template <class Ends, size_t kLanes, size_t kRows, size_t kColumns>
+HWY_INLINE FftKernel<typename Ends::Value> smallKernel(FftShape* shape) {
+  *shape = {FftSize::kSmall, Ends::kLayout, kLanes, kRows, kColumns};
+  return &RunSmall<Ends, kLanes, kRows, kColumns>;
+}
+
+// The kernel of this target for transforms of 2^order points, and how it wants them to be factored.
+template <class Ends>
+FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
+  using T = typename Ends::Value;
+  constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
+  constexpr size_t kLanes4 = HWY_MIN(kLanes, 4);
+  constexpr size_t kLanes8 = HWY_MIN(kLanes, 8);
+  constexpr size_t kColumns = HWY_MAX(kLanes, 8);
+  *shape = {FftSize::kSmall, Ends::kLayout, 1, size_t{1} << order, 1};
+  switch (order) {
+    case 0:
+      return &RunPoint<Ends>;
+    case 1:
+      return &RunPair<Ends>;
+    case 2:
+      return smallKernel<Ends, 2, 2, 2>(shape);
+    case 3:
+      return smallKernel<Ends, 2, 4, 2>(shape);
+    case 4:
+      return smallKernel<Ends, kLanes4, 4, 4>(shape);
+    case 5:
+      return smallKernel<Ends, kLanes4, 8, 4>(shape);
+    case 6:
+      return smallKernel<Ends, kLanes8, 8, 8>(shape);
+    case 7:
+      return smallKernel<Ends, kLanes8, 16, 8>(shape);
+    default:
+      break;
+  }
+  if constexpr (kLanes == 16) {
+    if (order == 8) return smallKernel<Ends, 16, 16, 16>(shape);
+  }
+  const size_t n = size_t{1} << order;
+  if (order >= kFirstLongOrder) {
+    const size_t rows = size_t{1} << (order + 1) / 2;
+    *shape = {FftSize::kLong, Ends::kLayout, kLanes, rows, n / rows};
+    return &RunLong<Ends>;
+  }
+  const FftSize size = n <= kStackPoints ? FftSize::kMediumOnStack : FftSize::kMedium;
+  *shape = {size, Ends::kLayout, kLanes, n / kColumns, kColumns};
+  if (size == FftSize::kMediumOnStack) return &RunMediumOnStack<Ends, kColumns, kStackPoints>;
+  return &RunMedium<Ends, kColumns>;
+}
+
+// Kernels for both directions. The inverse transform is the forward one with the real and the
+// imaginary parts exchanged on both sides, which callers with split parts do themselves.
+template <class T>
+VekStatus BindInterleavedFft(int order, FftPlan<T>* plan, FftShape* shape) {
+  plan->forward.kernel = chooseKernel<InterleavedEnds<T, false>>(order, shape);
+  plan->inverse.kernel = chooseKernel<InterleavedEnds<T, true>>(order, shape);
+  return vekStsOk;
+}
+
+template <class T>
+VekStatus BindSplitFft(int order, FftPlan<T>* plan, FftShape* shape) {
+  plan->forward.kernel = plan->inverse.kernel = chooseKernel<SplitEnds<T>>(order, shape);
+  return vekStsOk;
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace veks
+HWY_AFTER_NAMESPACE();
+
+#endif

@@ -1,0 +1,150 @@
+#include "transform/fft/tables.h"
+
+#include <algorithm>
+
+#include "transform/fft/roots_of_unity.h"
+
+namespace veks {
+namespace {
+
+// Radices of passes over 2^log2Length rows, log2Length at most 16: few passes, the largest radices
+// first, and 2 or 4 at the end only.
+int chooseRadices(int log2Length, uint8_t* log2Radices) {
+  const int count = log2Length <= 4 ? 1 : (log2Length + 3) / 4;
+  for (int i = 0, left = log2Length; i < count; ++i) {
+    const int others = count - 1 - i;
+    // The last pass takes what is left, passes between take 3 or 4.
+    const int most = others == 0 ? left : std::min(4, std::max(3, left - 3 * others));
+    log2Radices[i] = static_cast<uint8_t>(most);
+    left -= most;
+  }
+  return count;
+}
+
+// The value whose lowest digit in the mixed base of the first passes is the highest one of `group`.
+size_t firstFrequency(size_t group, const uint8_t* radices, int count) {
+  size_t frequency = 0;
+  size_t weight = 1;
+  size_t parts = 1;
+  for (int i = 0; i < count; ++i) parts *= radices[i];
+  for (int i = 0; i < count; ++i) {
+    parts /= radices[i];
+    frequency += group / parts % radices[i] * weight;
+    weight *= radices[i];
+  }
+  return frequency;
+}
+
+template <class T>
+void makePasses(size_t length, ColumnPasses<T>* passes, Arena* arena) {
+  int log2Length = 0;
+  while (size_t{1} << log2Length < length) ++log2Length;
+  uint8_t log2Radices[ColumnPasses<T>::kMaxPasses] = {};
+  passes->length = length;
+  passes->count = chooseRadices(log2Length, log2Radices);
+  size_t n = length;
+  for (int i = 0; i < passes->count; ++i) {
+    const size_t radix = size_t{1} << log2Radices[i];
+    passes->radices[i] = static_cast<uint8_t>(radix);
+    passes->twiddles[i] = nullptr;
+    if (i + 1 == passes->count) break;
+    T* w = arena->take<T>(2 * (radix - 1) * (n / radix));
+    passes->twiddles[i] = w;
+    for (size_t p = 0; !arena->isCounting() && p < n / radix; ++p) {
+      for (size_t r = 1; r < radix; ++r, w += 2) storeUnitRoot(p * r, n, T{1}, w, w + 1);
+    }
+    n /= radix;
+  }
+  const size_t groups = length / n;
+  uint32_t* const rowOf = arena->take<uint32_t>(length);
+  uint32_t* const first = arena->take<uint32_t>(groups);
+  passes->rowOf = rowOf;
+  passes->firstOfGroup = first;
+  for (size_t group = 0; !arena->isCounting() && group < groups; ++group) {
+    const size_t frequency = firstFrequency(group, passes->radices, passes->count - 1);
+    first[group] = static_cast<uint32_t>(frequency);
+    for (size_t r = 0; r < n; ++r) {
+      rowOf[frequency + r * groups] = static_cast<uint32_t>(group * n + r);
+    }
+  }
+}
+
+// For each row and column of a square of as many as there are lanes: what lane j of the vector for
+// the row in lane l holds.
+template <class T>
+void fillSquare(const FftShape& shape, size_t firstRow, size_t firstColumn, T factor, T* w) {
+  const size_t n = shape.rows * shape.columns;
+  for (size_t l = 0; l < shape.lanes; ++l, w += 2 * shape.lanes) {
+    const size_t row = firstRow + laneOrder<T>(shape.layout, shape.lanes, l);
+    for (size_t j = 0; j < shape.lanes; ++j) {
+      const size_t column = firstColumn + laneOrder<T>(shape.layout, shape.lanes, j);
+      storeUnitRoot(row * column, n, factor, w + j, w + shape.lanes + j);
+    }
+  }
+}
+
+// Short transforms: the factors of all rows and columns. Long ones: those of the first columns,
+// to be multiplied by others.
+template <class T>
+const T* makeTwiddles(const FftShape& shape, T factor, Arena* arena) {
+  const size_t columns = shape.size == FftSize::kLong ? shape.lanes : shape.columns;
+  T* const twiddles = arena->take<T>(2 * shape.rows * columns);
+  if (arena->isCounting()) return nullptr;
+  T* w = twiddles;
+  for (size_t row = 0; row < shape.rows; row += shape.lanes) {
+    for (size_t column = 0; column < columns; column += shape.lanes) {
+      fillSquare(shape, row, column, factor, w);
+      w += 2 * shape.lanes * shape.lanes;
+    }
+  }
+  return twiddles;
+}
+
+// Any power of exp(-2 pi i / N) as a product of one value of each table.
+template <class T>
+void makePowers(size_t n, FftPlan<T>* plan, Arena* arena) {
+  plan->fineBits = (plan->order + 1) / 2;
+  const size_t fineCount = size_t{1} << plan->fineBits;
+  const size_t coarseCount = n / fineCount;
+  T* const fine = arena->take<T>(2 * fineCount);
+  T* const coarse = arena->take<T>(2 * coarseCount);
+  plan->fine = fine;
+  plan->coarse = coarse;
+  if (arena->isCounting()) return;
+  for (size_t j = 0; j < fineCount; ++j) storeUnitRoot(j, n, T{1}, fine + 2 * j, fine + 2 * j + 1);
+  for (size_t j = 0; j < coarseCount; ++j) {
+    storeUnitRoot(j, coarseCount, T{1}, coarse + 2 * j, coarse + 2 * j + 1);
+  }
+}
+
+}  // namespace
+
+template <class T>
+void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena) {
+  const size_t n = shape.rows * shape.columns;
+  plan->rows = shape.rows;
+  plan->columns = shape.columns;
+  plan->workElements = 0;
+  plan->forward.plan = plan;
+  plan->inverse.plan = plan;
+  if (shape.columns == 1) return;
+  const bool isLong = shape.size == FftSize::kLong;
+  plan->forward.twiddles = makeTwiddles(shape, isLong ? T{1} : plan->forward.factor, arena);
+  plan->inverse.twiddles = isLong || plan->forward.factor == plan->inverse.factor
+                               ? plan->forward.twiddles
+                               : makeTwiddles(shape, plan->inverse.factor, arena);
+  if (shape.size == FftSize::kSmall) return;
+  makePasses(shape.rows, &plan->columnPasses, arena);
+  if (shape.size == FftSize::kMedium) plan->workElements = 2 * n;
+  if (!isLong) return;
+  makePasses(shape.columns, &plan->rowPasses, arena);
+  makePowers(n, plan, arena);
+  // The matrix, a band of it and the factors of one column.
+  const size_t longer = std::max(shape.rows, shape.columns);
+  plan->workElements = 2 * n + 2 * shape.lanes * longer + 2 * shape.rows;
+}
+
+template void makeTables(const FftShape&, FftPlan<float>*, Arena*);
+template void makeTables(const FftShape&, FftPlan<double>*, Arena*);
+
+}  // namespace veks
