@@ -122,8 +122,9 @@ HWY_NOINLINE void laterPasses(D d, const WorkRows<T> work, size_t base, size_t n
     part /= radix;
   }
   if (!withLast) return;
-  if (part == 16) return lastPass<16>(d, work, base, n);
-  if (part == 8) return lastPass<8>(d, work, base, n);
+  const size_t last = passes.radices[passes.count - 1];
+  if (last == 16) return lastPass<16>(d, work, base, n);
+  if (last == 8) return lastPass<8>(d, work, base, n);
   lastPass<4>(d, work, base, n);
 }
 
