@@ -74,11 +74,9 @@ HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Sou
   constexpr size_t kRow = 2 * kColumns;
   const FftPlan<T>& plan = *direction.plan;
   const ColumnPasses<T>& passes = plan.columnPasses;
-  for (size_t t = 0; t < kColumns; t += kLanes) {
-    const StridedRows<Source> rows = {source, t, kColumns};
-    const WorkRows<T> workRows = {work + 2 * t, kRow};
-    transformColumns(d, rows, workRows, passes);
-  }
+  const StridedRows<Source> rows = {source, 0, kColumns, kLanes};
+  const WorkRows<T> workRows = {work, kRow, 2 * kLanes};
+  transformColumns(d, rows, workRows, kColumns / kLanes, passes);
   const uint32_t* rowOf = passes.rowOf;
   const T* w = direction.twiddles;
   for (size_t k = 0; k < plan.rows; k += kLanes) {
@@ -106,6 +104,34 @@ HWY_INLINE void columnFactors(const FftPlan<T>& plan, size_t column, T factor, T
   }
 }
 
+// A block of as many frequencies of as many columns as there are lanes: multiplied by their
+// factors, transposed, to rows of the matrix of which the second sweep transforms the rows.
+template <Layout layout, class D, class T>
+HWY_INLINE void transposeBand(D d, const WorkRows<T>& rows, const uint32_t* rowOf, const T* w,
+                              const T* factors, T* out, bool streaming) {
+  constexpr size_t kLanes = MaxLanes(D());
+  constexpr size_t kRow = 2 * kLanes;
+  using P = Parts<hn::Vec<D>>;
+  P x[kLanes];
+  each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+    constexpr size_t kLane = laneOrder<T>(layout, kLanes, l);
+    const P lanes = times(P{hn::LoadU(d, w + l * kRow), hn::LoadU(d, w + l * kRow + kLanes)},
+                          hn::Set(d, factors[2 * kLane]), hn::Set(d, factors[2 * kLane + 1]));
+    x[l] = times(rows.load(d, rowOf[kLane]), lanes.re, lanes.im);
+  });
+  transposeParts(d, x);
+  const WorkRows<T> outRows = {out, kRow, 0};
+  each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+    constexpr size_t kLane = laneOrder<T>(layout, kLanes, l);
+    if (streaming) {
+      hn::Stream(x[l].re, d, out + kLane * kRow);
+      hn::Stream(x[l].im, d, out + kLane * kRow + kLanes);
+    } else {
+    outRows.store(d, x[l], kLane);
+    }
+  });
+}
+
 // Transforms past the caches, in two sweeps: bands of columns, then bands of rows, each through
 // work memory that stays in the caches.
 template <Layout layout, class D, class Source, class Destination, class T>
@@ -115,38 +141,37 @@ HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Sourc
   constexpr size_t kRow = 2 * kLanes;
   const FftPlan<T>& plan = *direction.plan;
   const size_t n = plan.rows * plan.columns;
+  const bool streaming = 2 * n * sizeof(T) >= size_t{8} << 20;
   T* const scratch = work + 2 * n;
-  T* const factors = scratch + kRow * HWY_MAX(plan.rows, plan.columns);
-  const WorkRows<T> scratchRows = {scratch, kRow};
+  T* const factors = scratch + plan.bands * kRow * HWY_MAX(plan.rows, plan.columns);
   const uint32_t* rowOf = plan.columnPasses.rowOf;
-  for (size_t c = 0; c < plan.columns; c += kLanes) {
-    const StridedRows<Source> rows = {source, c, plan.columns};
-    transformColumns(d, rows, scratchRows, plan.columnPasses);
-    columnFactors(plan, c, direction.factor, factors);
+  const WorkRows<T> columnRows = {scratch, kRow, kRow * plan.rows};
+  for (size_t c = 0; c < plan.columns; c += plan.bands * kLanes) {
+    const StridedRows<Source> rows = {source, c, plan.columns, kLanes};
+    transformColumns(d, rows, columnRows, plan.bands, plan.columnPasses);
+    for (size_t b = 0; b < plan.bands; ++b) {
+      columnFactors(plan, c + b * kLanes, direction.factor, factors + b * 2 * plan.rows);
+    }
     const T* w = direction.twiddles;
     for (size_t k = 0; k < plan.rows; k += kLanes) {
-      Parts<hn::Vec<D>> x[kLanes];
-      each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-        constexpr size_t kLane = laneOrder<T>(layout, kLanes, l);
-        const T* const at = factors + 2 * (k + kLane);
-        const auto lanes = times(
-            Parts<hn::Vec<D>>{hn::LoadU(d, w + l * kRow), hn::LoadU(d, w + l * kRow + kLanes)},
-            hn::Set(d, at[0]), hn::Set(d, at[1]));
-        x[l] = times(scratchRows.load(d, rowOf[k + kLane]), lanes.re, lanes.im);
-      });
-      w += kLanes * kRow;
-      transposeParts(d, x);
       T* const out = work + (k / kLanes * plan.columns + c) * kRow;
-      each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-        const WorkRows<T> outRows = {out, kRow};
-        outRows.store(d, x[l], laneOrder<T>(layout, kLanes, l));
-      });
+      for (size_t b = 0; b < plan.bands; ++b) {
+        transposeBand<layout>(d, columnRows.band(b), rowOf + k, w,
+                              factors + 2 * (b * plan.rows + k), out + b * kLanes * kRow, streaming);
+      }
+      w += kLanes * kRow;
     }
   }
-  for (size_t k = 0; k < plan.rows; k += kLanes) {
-    const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow};
-    const StridedRows<Destination> out = {destination, k, plan.rows};
-    transformColumnsTo(d, rows, scratchRows, out, plan.rowPasses);
+  const WorkRows<T> rowRows = {scratch, kRow, kRow * plan.columns};
+  for (size_t k = 0; k < plan.rows; k += plan.bands * kLanes) {
+    const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow, kRow * plan.columns};
+    const StridedRows<Destination> out = {destination, k, plan.rows, kLanes};
+    if (streaming) {
+      const StreamingDestination<T, false> dd{destination.pairs};
+    const StridedRows<StreamingDestination<T,false>> out = {dd, k, plan.rows, kLanes};
+    transformColumnsTo(d, rows, rowRows, out, plan.bands, plan.rowPasses);
+    } else
+    transformColumnsTo(d, rows, rowRows, out, plan.bands, plan.rowPasses);
   }
 }
 

@@ -79,6 +79,20 @@ struct InterleavedDestination {
   }
 };
 
+// The same past the caches, to an array aligned to vectors.
+template <class T, bool kExchanged>
+struct StreamingDestination {
+  T* pairs;
+  template <class D, class V>
+  HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
+    const V re = kExchanged ? x.im : x.re;
+    const V im = kExchanged ? x.re : x.im;
+    T* const to = pairs + 2 * i;
+    hn::Stream(hn::InterleaveLower(d, re, im), d, to);
+    hn::Stream(hn::InterleaveUpper(d, re, im), d, to + MaxLanes(D()));
+  }
+};
+
 template <class T>
 struct SplitDestination {
   T* re;
