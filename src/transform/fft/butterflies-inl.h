@@ -46,34 +46,111 @@ HWY_INLINE Parts<V> operator-(const Parts<V>& a, const Parts<V>& b) {
   return {hn::Sub(a.re, b.re), hn::Sub(a.im, b.im)};
 }
 
-// a - i b and a + i b
-template <class V>
-HWY_INLINE Parts<V> minusI(const Parts<V>& a, const Parts<V>& b) {
-  return {hn::Add(a.re, b.im), hn::Sub(a.im, b.re)};
-}
-
-template <class V>
-HWY_INLINE Parts<V> plusI(const Parts<V>& a, const Parts<V>& b) {
-  return {hn::Sub(a.re, b.im), hn::Add(a.im, b.re)};
-}
-
 // x * w
 template <class V>
 HWY_INLINE Parts<V> times(const Parts<V>& x, V wRe, V wIm) {
   return {hn::NegMulAdd(x.im, wIm, hn::Mul(x.re, wRe)), hn::MulAdd(x.im, wRe, hn::Mul(x.re, wIm))};
 }
 
-// Replaces four values by their transform.
+template <class D, class V>
+HWY_INLINE Parts<V> timesUnit(D d, const Parts<V>& x, double re, double im) {
+  using T = hn::TFromD<D>;
+  return times(x, hn::Set(d, static_cast<T>(re)), hn::Set(d, static_cast<T>(im)));
+}
+
+// e + c x and e - c x
 template <class V>
-HWY_INLINE void transform4(Parts<V>& x0, Parts<V>& x1, Parts<V>& x2, Parts<V>& x3) {
-  const Parts<V> a = x0 + x2;
-  const Parts<V> b = x0 - x2;
-  const Parts<V> c = x1 + x3;
-  const Parts<V> d = x1 - x3;
+HWY_INLINE Parts<V> plusScaled(const Parts<V>& e, V c, const Parts<V>& x) {
+  return {hn::MulAdd(c, x.re, e.re), hn::MulAdd(c, x.im, e.im)};
+}
+template <class V>
+HWY_INLINE Parts<V> minusScaled(const Parts<V>& e, V c, const Parts<V>& x) {
+  return {hn::NegMulAdd(c, x.re, e.re), hn::NegMulAdd(c, x.im, e.im)};
+}
+
+// a - i b and a + i b
+template <class D, class V>
+HWY_INLINE void addTurned(D /*d*/, const Parts<V>& a, const Parts<V>& b, Parts<V>& minus,
+                          Parts<V>& plus) {
+  const Parts<V> x = a;
+  const Parts<V> y = b;
+  minus = {hn::Add(x.re, y.im), hn::Sub(x.im, y.re)};
+  plus = {hn::Sub(x.re, y.im), hn::Add(x.im, y.re)};
+}
+
+// Real and imaginary parts in turn, half as many values as a vector has lanes. The inverse
+// transform turns the other way round.
+template <class V, bool kInverse>
+struct Pairs {
+  V v;
+};
+
+template <class V, bool kInverse>
+HWY_INLINE Pairs<V, kInverse> operator+(const Pairs<V, kInverse>& a, const Pairs<V, kInverse>& b) {
+  return {hn::Add(a.v, b.v)};
+}
+
+template <class V, bool kInverse>
+HWY_INLINE Pairs<V, kInverse> operator-(const Pairs<V, kInverse>& a, const Pairs<V, kInverse>& b) {
+  return {hn::Sub(a.v, b.v)};
+}
+
+template <class D, class V>
+HWY_INLINE V exchanged(D /*d*/, V v) {
+  if constexpr (sizeof(hn::TFromD<D>) == 8) {
+    return hn::Shuffle01(v);
+  } else {
+    return hn::Shuffle2301(v);
+  }
+}
+
+// x * w, given the real part of w in all lanes and the imaginary one with alternating signs, the
+// first one negative.
+template <class D, class V, bool kInverse>
+HWY_INLINE Pairs<V, kInverse> times(D d, const Pairs<V, kInverse>& x, V wRe, V wIm) {
+  return {hn::MulAdd(x.v, wRe, hn::Mul(exchanged(d, x.v), wIm))};
+}
+
+template <class D, class V, bool kInverse>
+HWY_INLINE Pairs<V, kInverse> timesUnit(D d, const Pairs<V, kInverse>& x, double re, double im) {
+  using T = hn::TFromD<D>;
+  const V wIm = hn::Set(d, static_cast<T>(kInverse ? -im : im));
+  return times(d, x, hn::Set(d, static_cast<T>(re)), hn::OddEven(wIm, hn::Neg(wIm)));
+}
+
+template <class V, bool kInverse>
+HWY_INLINE Pairs<V, kInverse> plusScaled(const Pairs<V, kInverse>& e, V c,
+                                         const Pairs<V, kInverse>& x) {
+  return {hn::MulAdd(c, x.v, e.v)};
+}
+template <class V, bool kInverse>
+HWY_INLINE Pairs<V, kInverse> minusScaled(const Pairs<V, kInverse>& e, V c,
+                                          const Pairs<V, kInverse>& x) {
+  return {hn::NegMulAdd(c, x.v, e.v)};
+}
+
+template <class D, class V, bool kInverse>
+HWY_INLINE void addTurned(D d, const Pairs<V, kInverse>& a, const Pairs<V, kInverse>& b,
+                          Pairs<V, kInverse>& minus, Pairs<V, kInverse>& plus) {
+  const V zero = hn::Zero(d);
+  const V sign = hn::Neg(zero);
+  const V signs = kInverse ? hn::OddEven(zero, sign) : hn::OddEven(sign, zero);
+  const V x = a.v;
+  const V turned = hn::Xor(exchanged(d, b.v), signs);
+  minus = {hn::Add(x, turned)};
+  plus = {hn::Sub(x, turned)};
+}
+
+// Replaces four values by their transform.
+template <class D, class X>
+HWY_INLINE void transform4(D d, X& x0, X& x1, X& x2, X& x3) {
+  const X a = x0 + x2;
+  const X b = x0 - x2;
+  const X c = x1 + x3;
+  const X e = x1 - x3;
   x0 = a + c;
-  x1 = minusI(b, d);
   x2 = a - c;
-  x3 = plusI(b, d);
+  addTurned(d, b, e, x1, x3);
 }
 
 // Transform<R>::run(d, x) replaces x[0 .. R - 1] by their transform; frequency r is then found at
@@ -82,22 +159,13 @@ template <size_t R>
 struct Transform;
 
 template <>
-struct Transform<1> {
-  static constexpr size_t at(size_t r) {
-    return r;
-  }
-  template <class D, class V>
-  static HWY_INLINE void run(D /*d*/, Parts<V>* /*x*/) {}
-};
-
-template <>
 struct Transform<2> {
   static constexpr size_t at(size_t r) {
     return r;
   }
-  template <class D, class V>
-  static HWY_INLINE void run(D /*d*/, Parts<V>* x) {
-    const Parts<V> a = x[0];
+  template <class D, class X>
+  static HWY_INLINE void run(D /*d*/, X* x) {
+    const X a = x[0];
     x[0] = a + x[1];
     x[1] = a - x[1];
   }
@@ -108,9 +176,9 @@ struct Transform<4> {
   static constexpr size_t at(size_t r) {
     return r;
   }
-  template <class D, class V>
-  static HWY_INLINE void run(D /*d*/, Parts<V>* x) {
-    transform4(x[0], x[1], x[2], x[3]);
+  template <class D, class X>
+  static HWY_INLINE void run(D d, X* x) {
+    transform4(d, x[0], x[1], x[2], x[3]);
   }
 };
 
@@ -119,27 +187,29 @@ struct Transform<8> {
   static constexpr size_t at(size_t r) {
     return r;
   }
-  template <class D, class V>
-  static HWY_INLINE void run(D d, Parts<V>* x) {
-    transform4(x[0], x[2], x[4], x[6]);
-    transform4(x[1], x[3], x[5], x[7]);
-    const V c = hn::Set(d, static_cast<hn::TFromD<D>>(0.70710678118654752440));
-    const Parts<V> e0 = x[0];
-    const Parts<V> e1 = x[2];
-    const Parts<V> e2 = x[4];
-    const Parts<V> e3 = x[6];
-    const Parts<V> o0 = x[1];
-    const Parts<V> o1 = minusI(x[3], x[3]);  // sqrt(2) times the twiddled value
-    const Parts<V> o2 = x[5];
-    const Parts<V> o3 = plusI(x[7], x[7]);  // likewise, times -1
+  template <class D, class X>
+  static HWY_INLINE void run(D d, X* x) {
+    transform4(d, x[0], x[2], x[4], x[6]);
+    transform4(d, x[1], x[3], x[5], x[7]);
+    const auto c = hn::Set(d, static_cast<hn::TFromD<D>>(0.70710678118654752440));
+    const X e0 = x[0];
+    const X e1 = x[2];
+    const X e2 = x[4];
+    const X e3 = x[6];
+    const X o0 = x[1];
+    const X o2 = x[5];
+    X o1;  // sqrt(2) times the turned value
+    X o3;  // the same, times -1
+    X unused;
+    addTurned(d, x[3], x[3], o1, unused);
+    addTurned(d, x[7], x[7], unused, o3);
     x[0] = e0 + o0;
     x[4] = e0 - o0;
-    x[1] = {hn::MulAdd(c, o1.re, e1.re), hn::MulAdd(c, o1.im, e1.im)};
-    x[5] = {hn::NegMulAdd(c, o1.re, e1.re), hn::NegMulAdd(c, o1.im, e1.im)};
-    x[2] = minusI(e2, o2);
-    x[6] = plusI(e2, o2);
-    x[3] = {hn::NegMulAdd(c, o3.re, e3.re), hn::NegMulAdd(c, o3.im, e3.im)};
-    x[7] = {hn::MulAdd(c, o3.re, e3.re), hn::MulAdd(c, o3.im, e3.im)};
+    x[1] = plusScaled(e1, c, o1);
+    x[5] = minusScaled(e1, c, o1);
+    addTurned(d, e2, o2, x[2], x[6]);
+    x[3] = minusScaled(e3, c, o3);
+    x[7] = plusScaled(e3, c, o3);
   }
 };
 
@@ -148,44 +218,34 @@ struct Transform<16> {
   static constexpr size_t at(size_t r) {
     return 4 * (r % 4) + r / 4;
   }
-  template <class D, class V>
-  static HWY_INLINE void run(D d, Parts<V>* x) {
-    using T = hn::TFromD<D>;
+  template <class D, class X>
+  static HWY_INLINE void run(D d, X* x) {
     each<4>([&](auto k) HWY_ATTR
-            __attribute__((always_inline)) { transform4(x[k], x[k + 4], x[k + 8], x[k + 12]); });
-    const V c1 = hn::Set(d, static_cast<T>(0.92387953251128675613));  // cos(pi/8)
-    const V s1 = hn::Set(d, static_cast<T>(0.38268343236508977173));
-    const V c2 = hn::Set(d, static_cast<T>(0.70710678118654752440));
+            __attribute__((always_inline)) { transform4(d, x[k], x[k + 4], x[k + 8], x[k + 12]); });
     // x[n + 4 k] times exp(-2 pi i n k / 16)
-    x[5] = {hn::MulAdd(x[5].im, s1, hn::Mul(x[5].re, c1)),
-            hn::NegMulAdd(x[5].re, s1, hn::Mul(x[5].im, c1))};
-    x[6] = {hn::Mul(c2, hn::Add(x[6].re, x[6].im)), hn::Mul(c2, hn::Sub(x[6].im, x[6].re))};
-    x[7] = {hn::MulAdd(x[7].im, c1, hn::Mul(x[7].re, s1)),
-            hn::NegMulAdd(x[7].re, c1, hn::Mul(x[7].im, s1))};
-    x[9] = {hn::Mul(c2, hn::Add(x[9].re, x[9].im)), hn::Mul(c2, hn::Sub(x[9].im, x[9].re))};
-    const Parts<V> y10 = x[10];  // its factor is -i
-    const V minusC2 = hn::Set(d, static_cast<T>(-0.70710678118654752440));
-    x[11] = {hn::Mul(c2, hn::Sub(x[11].im, x[11].re)),
-             hn::Mul(minusC2, hn::Add(x[11].re, x[11].im))};
-    x[13] = {hn::MulAdd(x[13].im, c1, hn::Mul(x[13].re, s1)),
-             hn::NegMulAdd(x[13].re, c1, hn::Mul(x[13].im, s1))};
-    x[14] = {hn::Mul(c2, hn::Sub(x[14].im, x[14].re)),
-             hn::Mul(minusC2, hn::Add(x[14].re, x[14].im))};
-    // exp(-2 pi i 9 / 16) = (-cos(pi/8), sin(pi/8))
-    const V minusC1 = hn::Set(d, static_cast<T>(-0.92387953251128675613));
-    x[15] = {hn::NegMulAdd(x[15].im, s1, hn::Mul(x[15].re, minusC1)),
-             hn::MulAdd(x[15].re, s1, hn::Mul(x[15].im, minusC1))};
-    transform4(x[0], x[1], x[2], x[3]);
-    transform4(x[4], x[5], x[6], x[7]);
-    const Parts<V> a = minusI(x[8], y10);
-    const Parts<V> b = plusI(x[8], y10);
-    const Parts<V> e = x[9] + x[11];
-    const Parts<V> f = x[9] - x[11];
+    constexpr double c1 = 0.92387953251128675613;  // cos(pi/8)
+    constexpr double s1 = 0.38268343236508977173;
+    constexpr double c2 = 0.70710678118654752440;
+    x[5] = timesUnit(d, x[5], c1, -s1);
+    x[6] = timesUnit(d, x[6], c2, -c2);
+    x[7] = timesUnit(d, x[7], s1, -c1);
+    x[9] = timesUnit(d, x[9], c2, -c2);
+    x[11] = timesUnit(d, x[11], -c2, -c2);
+    x[13] = timesUnit(d, x[13], s1, -c1);
+    x[14] = timesUnit(d, x[14], -c2, -c2);
+    x[15] = timesUnit(d, x[15], -c1, s1);
+    transform4(d, x[0], x[1], x[2], x[3]);
+    transform4(d, x[4], x[5], x[6], x[7]);
+    // The factor of x[10] is -i.
+    X a;
+    X b;
+    addTurned(d, x[8], x[10], a, b);
+    const X e = x[9] + x[11];
+    const X f = x[9] - x[11];
     x[8] = a + e;
-    x[9] = minusI(b, f);
     x[10] = a - e;
-    x[11] = plusI(b, f);
-    transform4(x[12], x[13], x[14], x[15]);
+    addTurned(d, b, f, x[9], x[11]);
+    transform4(d, x[12], x[13], x[14], x[15]);
   }
 };
 

@@ -66,6 +66,39 @@ HWY_INLINE void transformSmall(D d, const Source& source, const Destination& des
   });
 }
 
+// The same on values that stay in pairs, which spares short transforms the separation of their
+// parts.
+template <size_t kRows, size_t kColumns, bool kInverse, class D, class T>
+HWY_INLINE void transformSmallPairs(D d, const T* src, T* dst, const T* w) {
+  constexpr size_t kLanes = MaxLanes(D());
+  constexpr size_t kPairs = kLanes / 2;
+  constexpr size_t kTiles = kColumns / kPairs;
+  using X = Pairs<hn::Vec<D>, kInverse>;
+  X x[kTiles * kRows];
+  each<kTiles>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
+    each<kRows>([&](auto k) HWY_ATTR __attribute__((always_inline)) {
+      x[t * kRows + k] = {hn::LoadU(d, src + 2 * k * kColumns + t * kLanes)};
+    });
+    Transform<kRows>::run(d, x + t * kRows);
+  });
+  each<kRows / kPairs>([&](auto b) HWY_ATTR __attribute__((always_inline)) {
+    X y[kColumns];
+    each<kTiles>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
+      each<kPairs>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
+        constexpr size_t k = b * kPairs + l;
+        const T* const at = w + ((b * kTiles + t) * kPairs + l) * 2 * kLanes;
+        const X& from = x[t * kRows + Transform<kRows>::at(k)];
+        y[t * kPairs + l] = times(d, from, hn::LoadU(d, at), hn::LoadU(d, at + kLanes));
+      });
+      transposePairs(d, y + t * kPairs);
+    });
+    Transform<kColumns>::run(d, y);
+    each<kColumns>([&](auto r) HWY_ATTR __attribute__((always_inline)) {
+      hn::StoreU(y[Transform<kColumns>::at(r)].v, d, dst + 2 * (b * kPairs + r * kRows));
+    });
+  });
+}
+
 // Transforms whose work memory fits in the caches: each pass works on all columns.
 template <size_t kColumns, Layout layout, class D, class Source, class Destination, class T>
 HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Source& source,
@@ -106,9 +139,9 @@ HWY_INLINE void columnFactors(const FftPlan<T>& plan, size_t column, T factor, T
 
 // A block of as many frequencies of as many columns as there are lanes: multiplied by their
 // factors, transposed, to rows of the matrix of which the second sweep transforms the rows.
-template <Layout layout, class D, class T>
+template <Layout layout, bool kStreams, class D, class T>
 HWY_INLINE void transposeBand(D d, const WorkRows<T>& rows, const uint32_t* rowOf, const T* w,
-                              const T* factors, T* out, bool streaming) {
+                              const T* factors, T* out) {
   constexpr size_t kLanes = MaxLanes(D());
   constexpr size_t kRow = 2 * kLanes;
   using P = Parts<hn::Vec<D>>;
@@ -120,33 +153,27 @@ HWY_INLINE void transposeBand(D d, const WorkRows<T>& rows, const uint32_t* rowO
     x[l] = times(rows.load(d, rowOf[kLane]), lanes.re, lanes.im);
   });
   transposeParts(d, x);
-  const WorkRows<T> outRows = {out, kRow, 0};
   each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-    constexpr size_t kLane = laneOrder<T>(layout, kLanes, l);
-    if (streaming) {
-      hn::Stream(x[l].re, d, out + kLane * kRow);
-      hn::Stream(x[l].im, d, out + kLane * kRow + kLanes);
-    } else {
-    outRows.store(d, x[l], kLane);
-    }
+    T* const to = out + laneOrder<T>(layout, kLanes, l) * kRow;
+    storeVector<kStreams>(d, x[l].re, to);
+    storeVector<kStreams>(d, x[l].im, to + kLanes);
   });
 }
 
-// Transforms past the caches, in two sweeps: bands of columns, then bands of rows, each through
-// work memory that stays in the caches.
-template <Layout layout, class D, class Source, class Destination, class T>
+// Transforms past the first caches, in two sweeps: bands of columns, then bands of rows, each
+// through work memory that stays in the caches.
+template <Layout layout, bool kStreams, class D, class Source, class Destination, class T>
 HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Source& source,
                               const Destination& destination, T* work) {
   constexpr size_t kLanes = MaxLanes(D());
   constexpr size_t kRow = 2 * kLanes;
   const FftPlan<T>& plan = *direction.plan;
-  const size_t n = plan.rows * plan.columns;
-  const bool streaming = 2 * n * sizeof(T) >= size_t{8} << 20;
-  T* const scratch = work + 2 * n;
-  T* const factors = scratch + plan.bands * kRow * HWY_MAX(plan.rows, plan.columns);
+  const size_t bandLanes = plan.bands * kLanes;
+  T* const scratch = work + 2 * plan.rows * plan.columns;
+  T* const factors = scratch + kRow * plan.bands * HWY_MAX(plan.rows, plan.columns);
   const uint32_t* rowOf = plan.columnPasses.rowOf;
   const WorkRows<T> columnRows = {scratch, kRow, kRow * plan.rows};
-  for (size_t c = 0; c < plan.columns; c += plan.bands * kLanes) {
+  for (size_t c = 0; c < plan.columns; c += bandLanes) {
     const StridedRows<Source> rows = {source, c, plan.columns, kLanes};
     transformColumns(d, rows, columnRows, plan.bands, plan.columnPasses);
     for (size_t b = 0; b < plan.bands; ++b) {
@@ -156,23 +183,20 @@ HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Sourc
     for (size_t k = 0; k < plan.rows; k += kLanes) {
       T* const out = work + (k / kLanes * plan.columns + c) * kRow;
       for (size_t b = 0; b < plan.bands; ++b) {
-        transposeBand<layout>(d, columnRows.band(b), rowOf + k, w,
-                              factors + 2 * (b * plan.rows + k), out + b * kLanes * kRow, streaming);
+        transposeBand<layout, kStreams>(d, columnRows.band(b), rowOf + k, w,
+                                        factors + 2 * (b * plan.rows + k), out + b * kLanes * kRow);
       }
       w += kLanes * kRow;
     }
   }
+  if constexpr (kStreams) hwy::FlushStream();
   const WorkRows<T> rowRows = {scratch, kRow, kRow * plan.columns};
-  for (size_t k = 0; k < plan.rows; k += plan.bands * kLanes) {
+  for (size_t k = 0; k < plan.rows; k += bandLanes) {
     const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow, kRow * plan.columns};
     const StridedRows<Destination> out = {destination, k, plan.rows, kLanes};
-    if (streaming) {
-      const StreamingDestination<T, false> dd{destination.pairs};
-    const StridedRows<StreamingDestination<T,false>> out = {dd, k, plan.rows, kLanes};
-    transformColumnsTo(d, rows, rowRows, out, plan.bands, plan.rowPasses);
-    } else
     transformColumnsTo(d, rows, rowRows, out, plan.bands, plan.rowPasses);
   }
+  if constexpr (kStreams) hwy::FlushStream();
 }
 
 // What the directions of plans call.
@@ -210,6 +234,13 @@ void RunSmall(const FftDirection<T>& direction, const T* re, const T* im, T* dst
       d, Ends::source(re, im), Ends::destination(dstRe, dstIm), direction.twiddles);
 }
 
+template <class Ends, size_t kPairs, size_t kRows, size_t kColumns, class T = typename Ends::Value>
+void RunSmallPairs(const FftDirection<T>& direction, const T* re, const T* /*im*/, T* dstRe,
+                   T* /*dstIm*/, T* /*work*/) {
+  const hn::CappedTag<T, 2 * kPairs> d;
+  transformSmallPairs<kRows, kColumns, Ends::kIsInverse>(d, re, dstRe, direction.twiddles);
+}
+
 template <class Ends, size_t kColumns, class T = typename Ends::Value>
 void RunMedium(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
                T* work) {
@@ -225,11 +256,20 @@ void RunMediumOnStack(const FftDirection<T>& direction, const T* re, const T* im
   RunMedium<Ends, kColumns>(direction, re, im, dstRe, dstIm, work);
 }
 
+// From this size on, writing past the caches is faster.
+constexpr size_t kStreamingFftBytes = size_t{8} << 20;
+
 template <class Ends, class T = typename Ends::Value>
 void RunLong(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
              T* work) {
-  transformLong<Ends::kLayout>(hn::ScalableTag<T>(), direction, Ends::source(re, im),
-                               Ends::destination(dstRe, dstIm), work);
+  const hn::ScalableTag<T> d;
+  const auto source = Ends::source(re, im);
+  const auto destination = Ends::destination(dstRe, dstIm);
+  const size_t bytes = 2 * sizeof(T) << direction.plan->order;
+  if (bytes >= kStreamingFftBytes && destination.isAlignedFor(d)) {
+    return transformLong<Ends::kLayout, true>(d, direction, source, destination.streaming(), work);
+  }
+  transformLong<Ends::kLayout, false>(d, direction, source, destination, work);
 }
 
 // Where values come from and go to.
@@ -237,6 +277,7 @@ template <class T, bool kInverse>
 struct InterleavedEnds {
   using Value = T;
   static constexpr Layout kLayout = Layout::kInterleaved;
+  static constexpr bool kIsInverse = kInverse;
   static HWY_INLINE InterleavedSource<T, kInverse> source(const T* re, const T* /*im*/) {
     return {re};
   }
@@ -260,10 +301,19 @@ struct SplitEnds {
 constexpr int kFirstLongOrder = 17;
 constexpr size_t kStackPoints = 1024;
 
-template <class Ends, size_t kLanes, size_t kRows, size_t kColumns>
+template <class Ends, size_t kValues, size_t kRows, size_t kColumns>
 HWY_INLINE FftKernel<typename Ends::Value> smallKernel(FftShape* shape) {
-  *shape = {FftSize::kSmall, Ends::kLayout, kLanes, kRows, kColumns};
-  return &RunSmall<Ends, kLanes, kRows, kColumns>;
+  using T = typename Ends::Value;
+  constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
+  if constexpr (Ends::kLayout == Layout::kInterleaved) {
+    constexpr size_t kPairs = HWY_MIN(kValues, kLanes / 2);
+    *shape = {FftSize::kSmallPairs, Ends::kLayout, kPairs, kRows, kColumns};
+    return &RunSmallPairs<Ends, kPairs, kRows, kColumns>;
+  } else {
+    constexpr size_t kUsed = HWY_MIN(kValues, kLanes);
+    *shape = {FftSize::kSmall, Ends::kLayout, kUsed, kRows, kColumns};
+    return &RunSmall<Ends, kUsed, kRows, kColumns>;
+  }
 }
 
 // The kernel of this target for transforms of 2^order points, and how it wants them to be factored.
@@ -271,8 +321,6 @@ template <class Ends>
 FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
   using T = typename Ends::Value;
   constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
-  constexpr size_t kLanes4 = HWY_MIN(kLanes, 4);
-  constexpr size_t kLanes8 = HWY_MIN(kLanes, 8);
   constexpr size_t kColumns = HWY_MAX(kLanes, 8);
   *shape = {FftSize::kSmall, Ends::kLayout, 1, size_t{1} << order, 1};
   switch (order) {
@@ -285,13 +333,13 @@ FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
     case 3:
       return smallKernel<Ends, 2, 4, 2>(shape);
     case 4:
-      return smallKernel<Ends, kLanes4, 4, 4>(shape);
+      return smallKernel<Ends, 4, 4, 4>(shape);
     case 5:
-      return smallKernel<Ends, kLanes4, 8, 4>(shape);
+      return smallKernel<Ends, 4, 8, 4>(shape);
     case 6:
-      return smallKernel<Ends, kLanes8, 8, 8>(shape);
+      return smallKernel<Ends, 8, 8, 8>(shape);
     case 7:
-      return smallKernel<Ends, kLanes8, 16, 8>(shape);
+      return smallKernel<Ends, 8, 16, 8>(shape);
     default:
       break;
   }

@@ -6,6 +6,8 @@
 #define VEKS_TRANSFORM_FFT_LANES_INL_H
 #endif
 
+#include <hwy/cache_control.h>
+
 #include "transform/fft/butterflies-inl.h"
 #include "transform/fft/plan.h"
 
@@ -61,9 +63,32 @@ struct SplitSource {
   }
 };
 
-template <class T, bool kExchanged>
+// Stores past the caches, if so asked, need a destination that isAligned() for them.
+template <bool kStreams, class D, class V, class T>
+HWY_INLINE void storeVector(D d, V v, T* to) {
+  if constexpr (kStreams) {
+    hn::Stream(v, d, to);
+  } else {
+    hn::StoreU(v, d, to);
+  }
+}
+
+template <class D, class T>
+HWY_INLINE bool isAligned(D /*d*/, const T* p) {
+  return reinterpret_cast<uintptr_t>(p) % (MaxLanes(D()) * sizeof(T)) == 0;
+}
+
+template <class T, bool kExchanged, bool kStreams = false>
 struct InterleavedDestination {
+  using Streaming = InterleavedDestination<T, kExchanged, true>;
   T* pairs;
+  Streaming streaming() const {
+    return {pairs};
+  }
+  template <class D>
+  HWY_INLINE bool isAlignedFor(D d) const {
+    return isAligned(d, pairs);
+  }
   template <class D, class V>
   HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
     const V re = kExchanged ? x.im : x.re;
@@ -73,34 +98,28 @@ struct InterleavedDestination {
       hn::StoreU(re, d, to);
       hn::StoreU(im, d, to + 1);
     } else {
-      hn::StoreU(hn::InterleaveLower(d, re, im), d, to);
-      hn::StoreU(hn::InterleaveUpper(d, re, im), d, to + MaxLanes(D()));
+      storeVector<kStreams>(d, hn::InterleaveLower(d, re, im), to);
+      storeVector<kStreams>(d, hn::InterleaveUpper(d, re, im), to + MaxLanes(D()));
     }
   }
 };
 
-// The same past the caches, to an array aligned to vectors.
-template <class T, bool kExchanged>
-struct StreamingDestination {
-  T* pairs;
-  template <class D, class V>
-  HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
-    const V re = kExchanged ? x.im : x.re;
-    const V im = kExchanged ? x.re : x.im;
-    T* const to = pairs + 2 * i;
-    hn::Stream(hn::InterleaveLower(d, re, im), d, to);
-    hn::Stream(hn::InterleaveUpper(d, re, im), d, to + MaxLanes(D()));
-  }
-};
-
-template <class T>
+template <class T, bool kStreams = false>
 struct SplitDestination {
+  using Streaming = SplitDestination<T, true>;
   T* re;
   T* im;
+  Streaming streaming() const {
+    return {re, im};
+  }
+  template <class D>
+  HWY_INLINE bool isAlignedFor(D d) const {
+    return isAligned(d, re) && isAligned(d, im);
+  }
   template <class D, class V>
   HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
-    hn::StoreU(x.re, d, re + i);
-    hn::StoreU(x.im, d, im + i);
+    storeVector<kStreams>(d, x.re, re + i);
+    storeVector<kStreams>(d, x.im, im + i);
   }
 };
 
@@ -140,6 +159,33 @@ HWY_INLINE hn::Vec512<double> oddBlocks(hn::Vec512<double> a, hn::Vec512<double>
 }
 #endif
 
+// Transposes a square of blocks of 16 bytes: vectors i, i + kRows, ... for each i < kRows.
+template <size_t kRows, class D, class V>
+HWY_INLINE void transposeAmongBlocks(D d, V* x) {
+  constexpr size_t kBlocks = MaxLanes(D()) * sizeof(hn::TFromD<D>) / 16;
+  if constexpr (kBlocks == 2) {
+    each<kRows>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
+      const V low = hn::ConcatLowerLower(d, x[i + kRows], x[i]);
+      x[i + kRows] = hn::ConcatUpperUpper(d, x[i + kRows], x[i]);
+      x[i] = low;
+    });
+  }
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (kBlocks == 4) {
+    each<kRows>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
+      const V a = evenBlocks(x[i], x[i + kRows]);
+      const V b = oddBlocks(x[i], x[i + kRows]);
+      const V c = evenBlocks(x[i + 2 * kRows], x[i + 3 * kRows]);
+      const V e = oddBlocks(x[i + 2 * kRows], x[i + 3 * kRows]);
+      x[i] = evenBlocks(a, c);
+      x[i + kRows] = evenBlocks(b, e);
+      x[i + 2 * kRows] = oddBlocks(a, c);
+      x[i + 3 * kRows] = oddBlocks(b, e);
+    });
+  }
+#endif
+}
+
 // Transposes a square of as many vectors as they have lanes.
 template <class D, class V>
 HWY_INLINE void transpose(D d, V* x) {
@@ -153,27 +199,27 @@ HWY_INLINE void transpose(D d, V* x) {
       transposeBlocks(d, rows[0], rows[1], rows[2], rows[3]);
     }
   });
-  if constexpr (kLanes == 2 * kBlock) {
-    each<kBlock>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
-      const V low = hn::ConcatLowerLower(d, x[i + kBlock], x[i]);
-      x[i + kBlock] = hn::ConcatUpperUpper(d, x[i + kBlock], x[i]);
-      x[i] = low;
-    });
+  transposeAmongBlocks<kBlock>(d, x);
+}
+
+// Transposes a square of as many vectors as they have pairs.
+template <class D, class V, bool kInverse>
+HWY_INLINE void transposePairs(D d, Pairs<V, kInverse>* x) {
+  constexpr size_t kPairs = MaxLanes(D()) / 2;
+  if constexpr (sizeof(hn::TFromD<D>) == 8) {
+    V y[kPairs];
+    each<kPairs>([&](auto k) HWY_ATTR __attribute__((always_inline)) { y[k] = x[k].v; });
+    transposeAmongBlocks<1>(d, y);
+    each<kPairs>([&](auto k) HWY_ATTR __attribute__((always_inline)) { x[k] = {y[k]}; });
+  } else {
+    const hn::Repartition<double, D> wide;
+    hn::Vec<decltype(wide)> y[kPairs];
+    each<kPairs>([&](auto k) HWY_ATTR
+                 __attribute__((always_inline)) { y[k] = hn::BitCast(wide, x[k].v); });
+    transpose(wide, y);
+    each<kPairs>([&](auto k) HWY_ATTR
+                 __attribute__((always_inline)) { x[k] = {hn::BitCast(d, y[k])}; });
   }
-#if HWY_TARGET == HWY_AVX3
-  if constexpr (kLanes == 4 * kBlock) {
-    each<kBlock>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
-      const V a = evenBlocks(x[i], x[i + kBlock]);
-      const V b = oddBlocks(x[i], x[i + kBlock]);
-      const V c = evenBlocks(x[i + 2 * kBlock], x[i + 3 * kBlock]);
-      const V e = oddBlocks(x[i + 2 * kBlock], x[i + 3 * kBlock]);
-      x[i] = evenBlocks(a, c);
-      x[i + kBlock] = evenBlocks(b, e);
-      x[i + 2 * kBlock] = oddBlocks(a, c);
-      x[i + 3 * kBlock] = oddBlocks(b, e);
-    });
-  }
-#endif
 }
 
 template <class D, class V>

@@ -77,7 +77,7 @@ struct FftPlan {
   FftDirection<T> inverse;
 };
 
-enum class FftSize { kSmall, kMediumOnStack, kMedium, kLong };
+enum class FftSize { kSmallPairs, kSmall, kMediumOnStack, kMedium, kLong };
 
 // How a kernel wants a transform to be factored.
 struct FftShape {

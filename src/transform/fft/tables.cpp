@@ -86,18 +86,41 @@ void fillSquare(const FftShape& shape, size_t firstRow, size_t firstColumn, T fa
   }
 }
 
-// Short transforms: the factors of all rows and columns. Long ones: those of the first columns,
-// to be multiplied by others.
+// The same for `lanes` pairs: the real parts twice, then the imaginary parts with both signs.
 template <class T>
-const T* makeTwiddles(const FftShape& shape, T factor, Arena* arena) {
+void fillSquareOfPairs(const FftShape& shape, size_t firstRow, size_t firstColumn, T factor,
+                       bool isInverse, T* w) {
+  const size_t n = shape.rows * shape.columns;
+  for (size_t row = firstRow; row < firstRow + shape.lanes; ++row, w += 4 * shape.lanes) {
+    for (size_t j = 0; j < shape.lanes; ++j) {
+      T re;
+      T im;
+      storeUnitRoot(row * (firstColumn + j), n, factor, &re, &im);
+      w[2 * j] = w[2 * j + 1] = re;
+      T* const imaginary = w + 2 * shape.lanes + 2 * j;
+      imaginary[0] = isInverse ? im : -im;
+      imaginary[1] = -imaginary[0];
+    }
+  }
+}
+
+// Short transforms: the factors of all rows and columns. Long ones: those of the first columns, to
+// be multiplied by others.
+template <class T>
+const T* makeTwiddles(const FftShape& shape, T factor, bool isInverse, Arena* arena) {
+  const bool inPairs = shape.size == FftSize::kSmallPairs;
   const size_t columns = shape.size == FftSize::kLong ? shape.lanes : shape.columns;
-  T* const twiddles = arena->take<T>(2 * shape.rows * columns);
+  T* const twiddles = arena->take<T>((inPairs ? 4 : 2) * shape.rows * columns);
   if (arena->isCounting()) return nullptr;
   T* w = twiddles;
   for (size_t row = 0; row < shape.rows; row += shape.lanes) {
     for (size_t column = 0; column < columns; column += shape.lanes) {
-      fillSquare(shape, row, column, factor, w);
-      w += 2 * shape.lanes * shape.lanes;
+      if (inPairs) {
+        fillSquareOfPairs(shape, row, column, factor, isInverse, w);
+      } else {
+        fillSquare(shape, row, column, factor, w);
+      }
+      w += (inPairs ? 4 : 2) * shape.lanes * shape.lanes;
     }
   }
   return twiddles;
@@ -132,11 +155,14 @@ void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena) {
   plan->inverse.plan = plan;
   if (shape.columns == 1) return;
   const bool isLong = shape.size == FftSize::kLong;
-  plan->forward.twiddles = makeTwiddles(shape, isLong ? T{1} : plan->forward.factor, arena);
-  plan->inverse.twiddles = isLong || plan->forward.factor == plan->inverse.factor
+  const bool inPairs = shape.size == FftSize::kSmallPairs;
+  const T forwardFactor = isLong ? T{1} : plan->forward.factor;
+  const T inverseFactor = isLong ? T{1} : plan->inverse.factor;
+  plan->forward.twiddles = makeTwiddles(shape, forwardFactor, false, arena);
+  plan->inverse.twiddles = forwardFactor == inverseFactor && !inPairs
                                ? plan->forward.twiddles
-                               : makeTwiddles(shape, plan->inverse.factor, arena);
-  if (shape.size == FftSize::kSmall) return;
+                               : makeTwiddles(shape, inverseFactor, true, arena);
+  if (inPairs || shape.size == FftSize::kSmall) return;
   makePasses(shape.rows, &plan->columnPasses, arena);
   if (shape.size == FftSize::kMedium) plan->workElements = 2 * n;
   if (!isLong) return;
