@@ -63,6 +63,24 @@ Agreement withinAbsolute(double tolerance) {
   return elementwise<T>([tolerance](T a, T b) { return distance(a, b) <= tolerance; });
 }
 
+// Relative to the norm of all elements.
+template <class T>
+Agreement withinRelativeNorm(double tolerance) {
+  return [tolerance](const unsigned char* expected, const unsigned char* got, size_t bytes) {
+    double squares = 0;
+    double errors = 0;
+    for (size_t i = 0; i < bytes; i += sizeof(T)) {
+      T a;
+      T b;
+      std::memcpy(&a, expected + i, sizeof(T));
+      std::memcpy(&b, got + i, sizeof(T));
+      squares += magnitude(a) * magnitude(a);
+      errors += distance(a, b) * distance(a, b);
+    }
+    return std::sqrt(errors) <= tolerance * std::sqrt(squares);
+  };
+}
+
 // Some units in the last place of the element.
 template <class T>
 Agreement nearAgreement() {

@@ -49,6 +49,7 @@ const Contestant* findDifferent(const Case& c) {
     if (contestant.isYardstick) continue;
     c.prepare();
     contestant.run(1);
+    if (contestant.deliver) contestant.deliver();
     if (expected.empty()) {
       expected.assign(c.output, c.output + c.outputBytes);
     } else if (!agree(contestant, expected, c.output)) {
@@ -100,6 +101,7 @@ void compare(benchmark::State& state, const Case& c) {
     state.SkipWithError(("the result differs from that of " + other->name).c_str());
     return;
   }
+  if (c.beforeTiming) c.beforeTiming();
   const Samples samples = runRounds(state, c.contestants);
   std::vector<double> lowest;
   for (size_t i = 0; i < samples.size(); ++i) {
@@ -119,6 +121,7 @@ void compare(benchmark::State& state, const Case& c) {
   const double ratio = median(lowest);
   state.counters["bytes_per_second"] =
       static_cast<double>(c.trafficBytes) / (median(samples[0]) * 1e-9);
+  if (c.operations > 0) state.counters["gflops"] = c.operations / median(samples[0]);
   state.counters["ratio"] = ratio;
   state.counters["spread"] = (quantile(lowest, 0.75) - quantile(lowest, 0.25)) / ratio;
 }

@@ -31,6 +31,8 @@ struct Contestant {
   std::function<void(size_t count)> run;  // makes the call `count` times
   Agreement agrees = nullptr;             // null: every byte must be the same
   bool isYardstick = false;               // its output is of no interest
+  // Brings its results to the output of the case if they are elsewhere; not timed.
+  std::function<void()> deliver = nullptr;
 };
 
 // All functions are called through a pointer that the compiler knows nothing about: it can neither
@@ -49,7 +51,9 @@ struct Case {
   std::function<void()> prepare;        // gives the output its content before a call
   const unsigned char* output;          // compared after a call of each contestant
   size_t outputBytes;
-  size_t trafficBytes;  // read and written by one call
+  size_t trafficBytes;    // read and written by one call
+  double operations = 0;  // floating-point ones of a call, if they are of interest
+  std::function<void()> beforeTiming = nullptr;  // gives the inputs other content
 };
 
 // Nanoseconds per call of each contestant: samples[contestant][round].
@@ -62,8 +66,9 @@ double quantile(std::vector<double> samples, double q);
 double median(const std::vector<double>& samples);
 
 // Checks the results, runs the rounds and reports the counters: NAME_ns of each contestant,
-// bytes_per_second of the library, ratio and its spread (interquartile range / median), and
-// NAME_ratio of a yardstick. The label is the peer that the ratio refers to.
+// bytes_per_second of the library, gflops if a call has operations, ratio and its spread
+// (interquartile range / median), and NAME_ratio of a yardstick. The label is the peer that the
+// ratio refers to.
 void compare(benchmark::State& state, const Case& c);
 
 // Registers a benchmark of `rounds` rounds, unless setRounds() was called.

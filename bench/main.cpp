@@ -1,5 +1,6 @@
 // The benchmarks of veks. Besides the options of Google Benchmark: --rounds=N for every benchmark,
-// in place of 31 (11 for the largest vectors).
+// in place of 31 (11 for the largest vectors), and --fftw-wisdom=FILE, which keeps the plans of
+// FFTW in files whose names begin so.
 #include <sched.h>
 
 #include <cstdlib>
@@ -8,6 +9,7 @@
 #include <string_view>
 
 #include "comparisons.h"
+#include "fft_peer.h"
 #include "veks.h"
 
 namespace {
@@ -26,19 +28,23 @@ int pinToOneCore() {
   return sched_setaffinity(0, sizeof(one), &one) == 0 ? core : -1;
 }
 
-// Takes --rounds=N out of the arguments. Returns whether all was well.
-bool readRounds(int* argc, char** argv) {
-  constexpr std::string_view kFlag = "--rounds=";
+// Takes the options of this program out of the arguments. Returns whether all was well.
+bool readOptions(int* argc, char** argv) {
+  constexpr std::string_view kRounds = "--rounds=";
+  constexpr std::string_view kWisdom = "--fftw-wisdom=";
   int kept = 1;
   for (int i = 1; i < *argc; ++i) {
-    if (std::string_view(argv[i]).substr(0, kFlag.size()) != kFlag) {
+    const std::string_view argument = argv[i];
+    if (argument.substr(0, kRounds.size()) == kRounds) {
+      char* end = nullptr;
+      const long rounds = std::strtol(argv[i] + kRounds.size(), &end, 10);
+      if (*end != '\0' || rounds < 1 || rounds > 1'000'000) return false;
+      veks::bench::setRounds(static_cast<int>(rounds));
+    } else if (argument.substr(0, kWisdom.size()) == kWisdom) {
+      veks::bench::setFftWisdom(argv[i] + kWisdom.size());
+    } else {
       argv[kept++] = argv[i];
-      continue;
     }
-    char* end = nullptr;
-    const long rounds = std::strtol(argv[i] + kFlag.size(), &end, 10);
-    if (*end != '\0' || rounds < 1 || rounds > 1'000'000) return false;
-    veks::bench::setRounds(static_cast<int>(rounds));
   }
   argv[kept] = nullptr;
   *argc = kept;
@@ -48,7 +54,7 @@ bool readRounds(int* argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (!readRounds(&argc, argv)) {
+  if (!readOptions(&argc, argv)) {
     std::cerr << "--rounds needs a number from 1 to 1000000\n";
     return EXIT_FAILURE;
   }

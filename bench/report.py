@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Turns the JSON output of veks_bench into tables.
 
-Times are medians in ns per call; GB/s counts the bytes that veks reads and writes. The ratio is the
+Times are medians in ns per call; GB/s counts the bytes that veks reads and writes, GFLOPS the
+operations of a fast Fourier transform, 5 N log2 N (2.5 of real signals). The ratio is the
 time of the best peer / the time of veks, so above 1 veks is faster; "+-" is half the interquartile
 range of that ratio over the rounds. "stream" is the same ratio for a loop that only moves as many
 bytes. A peer with "~" rounds differently: its results are close, not the same.
@@ -48,11 +49,20 @@ def is_low(entry):
     return entry["ratio"] < MARK_BELOW
 
 
+def has_operations(entry):
+    return "gflops" in entry
+
+
+def rate(entry, decimals):
+    value = entry["gflops"] if has_operations(entry) else entry["bytes_per_second"] / 1e9
+    return f"{value:.{decimals}f}"
+
+
 def comparison_row(entry, peers):
     return [
         *parts_of(entry),
         number(entry["veks_ns"]),
-        f"{entry['bytes_per_second'] / 1e9:.1f}",
+        rate(entry, 1),
         *(number(entry[peer + "_ns"]) if peer + "_ns" in entry else "" for peer in peers),
         entry["label"],
         f"{entry['ratio']:.2f}",
@@ -68,10 +78,11 @@ def has_loop(entry):
 
 
 def print_comparisons(entries):
-    for _, group in itertools.groupby(entries, has_loop):
+    for key, group in itertools.groupby(entries, lambda e: (has_loop(e), has_operations(e))):
         group = list(group)
+        unit = "GFLOPS" if key[1] else "GB/s"
         peers = list(dict.fromkeys(peer for entry in group for peer in peers_of(entry)))
-        header = ["function", "size", "alignment", "veks", "GB/s", *peers, "best peer", "ratio"]
+        header = ["function", "size", "vectors", "veks", unit, *peers, "best peer", "ratio"]
         rows = [comparison_row(entry, peers) for entry in group]
         print_table([*header, "+-", YARDSTICK, ""], rows, 3)
     if not entries:
@@ -86,11 +97,12 @@ def print_comparisons(entries):
 
 
 def print_summary(entries):
-    """Prints Markdown tables, one for functions of the same sizes: GB/s and ratio for each size."""
+    """Prints Markdown tables, one for functions of the same sizes: GB/s (GFLOPS) and ratio
+    for each size."""
     rows = {}
     for entry in entries:
         function, size, alignment = parts_of(entry)
-        text = f"{entry['bytes_per_second'] / 1e9:.0f} ({entry['ratio']:.2f})"
+        text = f"{rate(entry, 0)} ({entry['ratio']:.2f})"
         rows.setdefault((function, alignment), {})[size] = text
     for sizes in dict.fromkeys(tuple(row) for row in rows.values()):
         print("| function | vectors |" + "".join(f" {size} |" for size in sizes))

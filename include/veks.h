@@ -11,6 +11,7 @@
 
 #include "veks/core/services.h"
 #include "veks/status.h"
+#include "veks/transform.h"
 #include "veks/types.h"
 #include "veks/vector/arithmetic.h"
 #include "veks/vector/conversion.h"

@@ -59,6 +59,15 @@ lv_32fc_t complexConstant() {
 const float kFactorToInteger = std::ldexp(1.0F, -kToInteger);
 const float kDivisorFromInteger = std::ldexp(1.0F, -kToInteger);
 
+// The products of spectra in Perm format: two real values, then complex ones.
+void multiplyPerm(const float* src1, const float* src2, float* dst, int len) {
+  dst[0] = src1[0] * src2[0];
+  dst[1] = src1[1] * src2[1];
+  volk_32fc_x2_multiply_32fc(
+      reinterpret_cast<lv_32fc_t*>(dst + 2), reinterpret_cast<const lv_32fc_t*>(src1 + 2),
+      reinterpret_cast<const lv_32fc_t*>(src2 + 2), static_cast<unsigned>(len / 2 - 1));
+}
+
 // Fused operations, approximate roots and quotients.
 template <class T>
 Peer near(Peer peer) {
@@ -77,6 +86,8 @@ const OptionalPeers peers({
     {"veksMul_32f", two(&volk_32f_x2_multiply_32f)},
     {"veksMul_64f", two(&volk_64f_x2_multiply_64f)},
     {"veksMul_32fc", near<Vek32fc>(two(&volk_32fc_x2_multiply_32fc))},
+    {"veksMulPerm_32f", approximate(productSumAgreement<float>(),
+                                    peerWith(kName, multiplyPerm, kSrc1, kSrc2, kDst, kLen))},
     {"veksMul_32f32fc", swapped(&volk_32fc_32f_multiply_32fc)},
     {"veksDiv_32f", near<Vek32f>(swapped(&volk_32f_x2_divide_32f))},
     {"veksDiv_32fc", near<Vek32fc>(swapped(&volk_32fc_x2_divide_32fc))},

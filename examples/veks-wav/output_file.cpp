@@ -17,11 +17,13 @@ namespace {
 
 constexpr int kEndingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-std::atomic<const char*> unfinished{nullptr};
+std::atomic<const char*> unfinished[2];
 static_assert(std::atomic<const char*>::is_always_lock_free, "read by a signal handler");
 
 void removeUnfinished(int signal) {
-  if (const char* path = unfinished) unlink(path);
+  for (const std::atomic<const char*>& file : unfinished) {
+    if (const char* path = file) unlink(path);
+  }
   // The handler was reset on entry: this time the signal ends the program.
   raise(signal);
 }
@@ -82,15 +84,17 @@ OutputFile::OutputFile(const std::string& path) : path_(path), target_(path) {
   const SignalsHeld held;
   descriptor_ = mkostemp(temporary_.data(), O_CLOEXEC);
   if (descriptor_ < 0) throw systemError(path, "cannot be created", errno);
-  unfinished = temporary_.c_str();
+  place_ = unfinished[0] == nullptr ? 0 : 1;
+  unfinished[place_] = temporary_.c_str();
+  isUnfinished_ = true;
   fchmod(descriptor_, mode);
 }
 
 OutputFile::~OutputFile() {
   close(descriptor_);
-  if (unfinished) {
+  if (isUnfinished_) {
     unlink(temporary_.c_str());
-    unfinished = nullptr;
+    finish();
   }
 }
 
@@ -99,7 +103,12 @@ void OutputFile::commit() {
   if (rename(temporary_.c_str(), target_.c_str()) != 0) {
     throw systemError(path_, "cannot be replaced", errno);
   }
-  unfinished = nullptr;
+  finish();
+}
+
+void OutputFile::finish() {
+  unfinished[place_] = nullptr;
+  isUnfinished_ = false;
 }
 
 }  // namespace veks_wav

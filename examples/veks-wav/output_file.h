@@ -2,13 +2,14 @@
 #ifndef VEKS_WAV_OUTPUT_FILE_H
 #define VEKS_WAV_OUTPUT_FILE_H
 
+#include <cstddef>
 #include <string>
 
 namespace veks_wav {
 
 // Writing goes to a temporary file in the directory of the output. commit() renames it to its
 // name; without that the destructor removes it, and so does a signal that ends the program. There
-// is one such file at a time.
+// are at most two such files at a time.
 class OutputFile {
  public:
   explicit OutputFile(const std::string& path);
@@ -26,10 +27,14 @@ class OutputFile {
   void commit();
 
  private:
+  void finish();
+
   std::string path_;
   std::string target_;
   std::string temporary_;
   int descriptor_ = -1;
+  size_t place_ = 0;
+  bool isUnfinished_ = false;
 };
 
 }  // namespace veks_wav

@@ -70,6 +70,39 @@ inline void shiftLeft(Vek32s* samples, int len, int bits) {
   check(veksLShiftC_32s_I(bits, samples, len));
 }
 
+// values[k] * conj(values[k]) of a spectrum in the format Pack: its squares, and zeros as imaginary
+// parts.
+inline void multiplyByConjugate(Vek64f* values, int len) {
+  check(veksMulPackConj_64f_I(values, values, len));
+}
+
+// Transforms of 2^order real samples into spectra in the format Pack, in place.
+class RealTransform {
+ public:
+  explicit RealTransform(int order) {
+    constexpr int kNoFactor = 8;
+    check(veksFFTInitAlloc_R_64f(&context_, order, kNoFactor, vekAlgHintNone));
+  }
+  RealTransform(const RealTransform&) = delete;
+  RealTransform& operator=(const RealTransform&) = delete;
+  ~RealTransform() {
+    veksFFTFree_R_64f(context_);
+  }
+
+  // Of the work buffer, in bytes.
+  size_t bufferSize() const {
+    int size = 0;
+    check(veksFFTGetBufSize_R_64f(context_, &size));
+    return static_cast<size_t>(size);
+  }
+  void run(Vek64f* values, Vek8u* buffer) const {
+    check(veksFFTFwd_RToPack_64f(values, values, context_, buffer));
+  }
+
+ private:
+  VeksFFTContext_R_64f* context_ = nullptr;
+};
+
 // Flip keeps bit patterns, so that the floating-point forms serve any elements of their size.
 inline void flip32(void* elements, int len) {
   check(veksFlip_32f_I(static_cast<Vek32f*>(elements), len));

@@ -69,10 +69,18 @@ enum class Role { kSource, kDestination, kSourceDestination, kLength, kScalar };
 
 enum class Lane { kInteger, kFloat, kDouble };
 
-// The number of elements behind a pointer: perLen * len + fixed.
+// The number of elements behind a pointer.
 struct Span {
   size_t perLen = 1;
   size_t fixed = 0;
+  size_t perTwo = 0;
+
+  constexpr size_t elements(size_t len) const {
+    return perLen * len + fixed + perTwo * (len / 2);
+  }
+  constexpr bool operator==(const Span& other) const {
+    return perLen == other.perLen && fixed == other.fixed && perTwo == other.perTwo;
+  }
 };
 
 struct BadValue {

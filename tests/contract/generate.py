@@ -11,14 +11,23 @@ import sys
 from pathlib import Path
 
 from declarations import DeclarationError, parse_files
-from rules import LengthFirst, NoPartner, NotSwept, ScalarsFirst, Span, TargetsDiffer, Values
+from rules import (
+    LengthFirst,
+    NoPartner,
+    NotSwept,
+    ScalarsFirst,
+    SourceAtStart,
+    Span,
+    TargetsDiffer,
+    Values,
+)
 
 SAMPLE = r"Vek\d+[usf]c?"
 ROLES = (
     (rf"const {SAMPLE}\*", r"pSrc(?!Dst)\w*", "source"),
     (rf"{SAMPLE}\*", r"pDst\w*", "destination"),
     (rf"{SAMPLE}\*", r"pSrcDst\w*", "sourceDestination"),
-    (r"int", r"len", "length"),
+    (r"int", r"len|lenDst", "length"),
     (SAMPLE, r"val", "scalar"),
 )
 
@@ -91,8 +100,11 @@ def partner_index(swept, table, book):
     if not swept.is_in_place() or book.find(NoPartner, swept.function):
         return None
     name = swept.out_of_place_name()
+    inputs = swept.inputs()
+    if book.find(SourceAtStart, swept.function):
+        inputs = ([element.removesuffix("c") for element in inputs[0]], inputs[1])
     for index, other in enumerate(table):
-        if other.name == name and other is not swept and other.inputs() == swept.inputs():
+        if other.name == name and other is not swept and other.inputs() == inputs:
             return index
     raise DeclarationError(f"{swept.name} is the in-place form of nothing; it needs an exception")
 
@@ -110,7 +122,7 @@ def parameter_text(swept, position, book):
     else:
         rule = book.find(Span, function, parameter)
         if rule:
-            arguments.append(f"Span{{{rule.per_len}, {rule.fixed}}}")
+            arguments.append(f"Span{{{rule.per_len}, {rule.fixed}, {rule.per_two}}}")
     return f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
 
 

@@ -5,7 +5,7 @@ namespace veks::contract {
 namespace {
 
 bool areAlike(const Parameter& a, const Parameter& b) {
-  return a.type == b.type && a.span.perLen == b.span.perLen && a.span.fixed == b.span.fixed;
+  return a.type == b.type && a.span == b.span;
 }
 
 // All destinations that may be one of the sources.

@@ -46,7 +46,7 @@ Invocation::Invocation(const Descriptor& function, int len, Workspace& workspace
   for (size_t i = 0; i < function.count; ++i) {
     const Parameter& parameter = function.parameters[i];
     if (!parameter.isPointer()) continue;
-    const size_t bytes = (parameter.span.perLen * count + parameter.span.fixed) * parameter.size;
+    const size_t bytes = parameter.span.elements(count) * parameter.size;
     const unsigned char* input = nullptr;
     if (parameter.role != Role::kDestination) {
       input = workspace.input(parameter.lane, inputs++, bytes);

@@ -15,6 +15,7 @@ namespace {
 TEST(Planted, EveryFaultIsReportedAndNothingElse) {
   std::map<std::string, std::set<Kind>> expected = {
       {"veksPlantedReadPast_8u", {Kind::kReadOutside}},
+      {"veksPlantedHalfRoundedUp_16s", {Kind::kReadOutside}},
       {"veksPlantedReadBefore_16s", {Kind::kReadOutside}},
       {"veksPlantedWritePast_32s", {Kind::kWriteOutside}},
       {"veksPlantedWriteBefore_8u_I", {Kind::kWriteOutside}},
@@ -35,6 +36,7 @@ TEST(Planted, EveryFaultIsReportedAndNothingElse) {
       {"veksPlantedIncomplete_8u", {Kind::kPlacement, Kind::kInPlace}},
       {"veksPlantedAlignedOnly_64f", {Kind::kCrash}},
       {"veksPlantedInPlace_16s_I", {Kind::kInPlace}},
+      {"veksPlantedExpandUp_8sc_I", {Kind::kInPlace}},
       {"veksPlantedOverwrite_32s", {Kind::kInPlace}},
   };
   if (targetCount() > 1) expected["veksPlantedTarget_32f"] = {Kind::kTarget};

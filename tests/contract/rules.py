@@ -26,6 +26,12 @@ class NoPartner(Rule):
 
 
 @dataclass(frozen=True)
+class SourceAtStart(Rule):
+    """In-place functions that find the real source of their out-of-place form at the start of the
+    complex destination."""
+
+
+@dataclass(frozen=True)
 class TargetsDiffer(Rule):
     """Results may differ between SIMD targets in the last bits."""
 
@@ -47,10 +53,11 @@ class ParameterRule(Rule):
 
 @dataclass(frozen=True, kw_only=True)
 class Span(ParameterRule):
-    """Pointers to `per_len * len + fixed` elements instead of `len`."""
+    """Pointers to `per_len * len + fixed + per_two * (len // 2)` elements instead of `len`."""
 
     per_len: int = 0
     fixed: int = 0
+    per_two: int = 0
 
 
 @dataclass(frozen=True, kw_only=True)

@@ -10,7 +10,7 @@ import exports
 import headers
 from declarations import DeclarationError, Function, Parameter, parse
 from generate import generate
-from rules import NoPartner, NotSwept, Span, Values
+from rules import NoPartner, NotSwept, SourceAtStart, Span, Values
 
 HERE = Path(__file__).parent
 NM, PLANTED_LIBRARY, CC, CXX = sys.argv[1:]
@@ -65,7 +65,7 @@ class GenerateTest(unittest.TestCase):
         sum_8u = "VEKS_API VekStatus veksSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum);"
         self.assert_error(r"veksSum_8u: cannot classify 'Vek32s\* pSum'", sum_8u)
         rule = Span("veksSum_8u", parameters="pSum", fixed=1, reason="one result")
-        self.assertIn('destination<Vek32s>("pSum", Span{0, 1})', self.generate(sum_8u, rule))
+        self.assertIn('destination<Vek32s>("pSum", Span{0, 1, 0})', self.generate(sum_8u, rule))
 
         shift = "VEKS_API VekStatus veksShift_8u(int val, Vek8u* pDst, int len);"
         self.assert_error("veksShift_8u: cannot classify 'int val'", shift)
@@ -107,6 +107,15 @@ class GenerateTest(unittest.TestCase):
         self.assertIn("&kFunctions[0]", self.generate(partner + in_place))
         scaled = (partner + in_place).replace("8u(", "8u_Sfs(").replace("8u_I(", "8u_ISfs(")
         self.assertIn("&kFunctions[0]", self.generate(scaled))
+
+    def test_an_in_place_function_may_find_its_real_source_at_the_start(self):
+        text = """
+            VEKS_API VekStatus veksConj_8sc_I(Vek8sc* pSrcDst, int lenDst);
+            VEKS_API VekStatus veksConj_8sc(const Vek8s* pSrc, Vek8sc* pDst, int lenDst);
+        """
+        self.assert_error("veksConj_8sc_I is the in-place form of nothing", text)
+        rule = SourceAtStart("veksConj_8sc_I", reason="expands")
+        self.assertIn("&kFunctions[1]", self.generate(text, rule))
 
     def test_an_exception_that_matches_nothing_is_an_error(self):
         text = "VEKS_API VekStatus veksZero_8u(Vek8u* pDst, int len);"

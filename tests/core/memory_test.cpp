@@ -1,44 +1,14 @@
-// The aligned allocator, with the heap under observation: the linker redirects malloc and free of
-// the whole program to the functions below.
+// The aligned allocator, with the heap under observation.
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstring>
 #include <limits>
 
+#include "heap.h"
 #include "veks/core/services.h"
 
-namespace {
-
-struct Heap {
-  bool fails = false;
-  size_t requested = 0;
-  void* returned = nullptr;
-  void* released = nullptr;
-};
-thread_local Heap heap;
-
-}  // namespace
-
-extern "C" {
-
-// NOLINTBEGIN(bugprone-reserved-identifier): the names that --wrap asks for
-void* __real_malloc(size_t bytes);
-void __real_free(void* ptr);
-
-void* __wrap_malloc(size_t bytes) {
-  heap.requested = bytes;
-  heap.returned = heap.fails ? nullptr : __real_malloc(bytes);
-  return heap.returned;
-}
-
-void __wrap_free(void* ptr) {
-  heap.released = ptr;
-  __real_free(ptr);
-}
-// NOLINTEND(bugprone-reserved-identifier)
-}
-
+namespace veks::test {
 namespace {
 
 constexpr size_t kOverhead = 32 + sizeof(void*);
@@ -65,11 +35,11 @@ void checkMalloc(T* (*mallocVector)(int)) {
     ASSERT_EQ(heap.released, seen.returned) << "the address that the heap gave";
   }
 
-  heap.fails = true;
+  heap.callsUntilFailure = 0;
   T* const none = mallocVector(7);
   T* const huge = mallocVector(std::numeric_limits<int>::max());
   const size_t requested = heap.requested;
-  heap.fails = false;
+  heap.callsUntilFailure = Heap::kNever;
   EXPECT_EQ(none, nullptr);
   EXPECT_EQ(huge, nullptr);
   // Modulo 2^32 on 32-bit builds, exact on the others.
@@ -102,3 +72,4 @@ TEST(Free, IgnoresNull) {
 }
 
 }  // namespace
+}  // namespace veks::test

@@ -46,6 +46,20 @@ HWY_INLINE V subtractAdd(D d, V a, V b) {
   return hn::OddEven(hn::Add(a, b), hn::Sub(a, b));
 }
 
+// a + b in the even lanes, a - b in the odd ones.
+template <class D, class V>
+HWY_INLINE V addSubtract(D d, V a, V b) {
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (std::is_same_v<V, hn::Vec512<float>>) {
+    return V{_mm512_fmsubadd_ps(a.raw, _mm512_set1_ps(1), b.raw)};
+  } else if constexpr (std::is_same_v<V, hn::Vec512<double>>) {
+    return V{_mm512_fmsubadd_pd(a.raw, _mm512_set1_pd(1), b.raw)};
+  }
+#endif
+  (void)d;
+  return hn::OddEven(hn::Sub(a, b), hn::Add(a, b));
+}
+
 // The real parts of complex values in both places, and the imaginary ones. Loads can do that in
 // passing, which spares the one unit for shuffles; the compiler would load once and shuffle.
 template <class D, class T>

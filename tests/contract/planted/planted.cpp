@@ -68,6 +68,27 @@ uintptr_t leftInPage(const void* p) {
   return (kPage - reinterpret_cast<uintptr_t>(p) % kPage) % kPage;
 }
 
+// The source has the values of the first half and one more.
+VekStatus copyHalf(const Vek16s* src, Vek16s* dst, int len) {
+  const VekStatus status = checkVectors(len, src, dst);
+  if (status != vekStsOk) return status;
+  for (int i = 0; i < len; ++i) write(&dst[i], src[i < len / 2 ? i : len / 2]);
+  return vekStsOk;
+}
+
+// Real values become complex ones, in place only from the last one on.
+VekStatus expand(const Vek8s* src, Vek8sc* dst, int len, bool fromLast) {
+  const VekStatus status = checkVectors(len, src, dst);
+  if (status != vekStsOk) return status;
+  for (int k = 0; k < len; ++k) {
+    const int i = fromLast ? len - 1 - k : k;
+    const Vek8s value = read(&src[i]);
+    write(&dst[i].re, value);
+    write(&dst[i].im, Vek8s{0});
+  }
+  return vekStsOk;
+}
+
 VekStatus addTarget(const Vek32f* src, Vek32f* dst, int len) {
   const VekStatus status = checkVectors(len, src, dst);
   if (status != vekStsOk) return status;
@@ -103,6 +124,22 @@ VekStatus veksPlantedNegate_32s_I(Vek32s* pSrcDst, int len) {
   return vekStsOk;
 }
 
+VekStatus veksPlantedHalf_16s(const Vek16s* pSrc, Vek16s* pDst, int len) {
+  return copyHalf(pSrc, pDst, len);
+}
+
+VekStatus veksPlantedExpandUp_8sc(const Vek8s* pSrc, Vek8sc* pDst, int len) {
+  return expand(pSrc, pDst, len, false);
+}
+
+VekStatus veksPlantedExpandDown_8sc(const Vek8s* pSrc, Vek8sc* pDst, int len) {
+  return expand(pSrc, pDst, len, true);
+}
+
+VekStatus veksPlantedExpandDown_8sc_I(Vek8sc* pSrcDst, int len) {
+  return expand(reinterpret_cast<const Vek8s*>(pSrcDst), pSrcDst, len, true);
+}
+
 VekStatus veksPlantedLastBits_32f(const Vek32f* pSrc, Vek32f* pDst, int len) {
   return addTarget(pSrc, pDst, len);
 }
@@ -110,6 +147,12 @@ VekStatus veksPlantedLastBits_32f(const Vek32f* pSrc, Vek32f* pDst, int len) {
 VekStatus veksPlantedReadPast_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
   const VekStatus status = checkedCopy(pSrc, pDst, len);
   if (status == vekStsOk) read(pSrc + len);
+  return status;
+}
+
+VekStatus veksPlantedHalfRoundedUp_16s(const Vek16s* pSrc, Vek16s* pDst, int len) {
+  const VekStatus status = copyHalf(pSrc, pDst, len);
+  if (status == vekStsOk) read(pSrc + (len + 1) / 2);
   return status;
 }
 
@@ -239,6 +282,10 @@ VekStatus veksPlantedInPlace_16s(const Vek16s* pSrc1, const Vek16s* pSrc2, Vek16
 
 VekStatus veksPlantedInPlace_16s_I(const Vek16s* pSrc, Vek16s* pSrcDst, int len) {
   return subtract(pSrcDst, pSrc, pSrcDst, len);
+}
+
+VekStatus veksPlantedExpandUp_8sc_I(Vek8sc* pSrcDst, int len) {
+  return expand(reinterpret_cast<const Vek8s*>(pSrcDst), pSrcDst, len, false);
 }
 
 // pDst may be pSrc1, but not pSrc2.

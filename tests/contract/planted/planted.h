@@ -18,10 +18,15 @@ VEKS_API VekStatus veksPlantedSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum);
 VEKS_API VekStatus veksPlantedNegate_32s_I(Vek32s* pSrcDst, int len);
 VEKS_API VekStatus veksPlantedLengthFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
 VEKS_API VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
+VEKS_API VekStatus veksPlantedHalf_16s(const Vek16s* pSrc, Vek16s* pDst, int len);
+VEKS_API VekStatus veksPlantedExpandUp_8sc(const Vek8s* pSrc, Vek8sc* pDst, int len);
+VEKS_API VekStatus veksPlantedExpandDown_8sc(const Vek8s* pSrc, Vek8sc* pDst, int len);
+VEKS_API VekStatus veksPlantedExpandDown_8sc_I(Vek8sc* pSrcDst, int len);
 VEKS_API VekStatus veksPlantedLastBits_32f(const Vek32f* pSrc, Vek32f* pDst, int len);
 
 // With accesses outside of the vectors or to a source.
 VEKS_API VekStatus veksPlantedReadPast_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
+VEKS_API VekStatus veksPlantedHalfRoundedUp_16s(const Vek16s* pSrc, Vek16s* pDst, int len);
 VEKS_API VekStatus veksPlantedReadBefore_16s(const Vek16s* pSrc, Vek16s* pDst, int len);
 VEKS_API VekStatus veksPlantedWritePast_32s(Vek32s val, Vek32s* pDst, int len);
 VEKS_API VekStatus veksPlantedWriteBefore_8u_I(Vek8u* pSrcDst, int len);
@@ -49,6 +54,7 @@ VEKS_API VekStatus veksPlantedTarget_32f(const Vek32f* pSrc, Vek32f* pDst, int l
 VEKS_API VekStatus veksPlantedInPlace_16s(const Vek16s* pSrc1, const Vek16s* pSrc2, Vek16s* pDst,
                                           int len);
 VEKS_API VekStatus veksPlantedInPlace_16s_I(const Vek16s* pSrc, Vek16s* pSrcDst, int len);
+VEKS_API VekStatus veksPlantedExpandUp_8sc_I(Vek8sc* pSrcDst, int len);
 VEKS_API VekStatus veksPlantedOverwrite_32s(const Vek32s* pSrc1, const Vek32s* pSrc2, Vek32s* pDst,
                                             int len);
 
