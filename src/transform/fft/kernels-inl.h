@@ -199,6 +199,11 @@ HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Sourc
   if constexpr (kStreams) hwy::FlushStream();
 }
 
+// Full vectors. Without vectors in hardware, lanes of their own take a tenth of the time to
+// compile.
+template <class T>
+using FftTag = hn::CappedTag<T, HWY_TARGET == HWY_EMU128 ? 1 : MaxLanes(hn::ScalableTag<T>())>;
+
 // What the directions of plans call.
 template <class Ends, class T = typename Ends::Value>
 void RunPoint(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
@@ -244,7 +249,7 @@ void RunSmallPairs(const FftDirection<T>& direction, const T* re, const T* /*im*
 template <class Ends, size_t kColumns, class T = typename Ends::Value>
 void RunMedium(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
                T* work) {
-  transformMedium<kColumns, Ends::kLayout>(hn::ScalableTag<T>(), direction, Ends::source(re, im),
+  transformMedium<kColumns, Ends::kLayout>(FftTag<T>(), direction, Ends::source(re, im),
                                            Ends::destination(dstRe, dstIm), work);
 }
 
@@ -262,7 +267,7 @@ constexpr size_t kStreamingFftBytes = size_t{8} << 20;
 template <class Ends, class T = typename Ends::Value>
 void RunLong(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
              T* work) {
-  const hn::ScalableTag<T> d;
+  const FftTag<T> d;
   const auto source = Ends::source(re, im);
   const auto destination = Ends::destination(dstRe, dstIm);
   const size_t bytes = 2 * sizeof(T) << direction.plan->order;
@@ -304,8 +309,8 @@ constexpr size_t kStackPoints = 1024;
 template <class Ends, size_t kValues, size_t kRows, size_t kColumns>
 HWY_INLINE FftKernel<typename Ends::Value> smallKernel(FftShape* shape) {
   using T = typename Ends::Value;
-  constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
-  if constexpr (Ends::kLayout == Layout::kInterleaved) {
+  constexpr size_t kLanes = MaxLanes(FftTag<T>());
+  if constexpr (Ends::kLayout == Layout::kInterleaved && kLanes > 1) {
     constexpr size_t kPairs = HWY_MIN(kValues, kLanes / 2);
     *shape = {FftSize::kSmallPairs, Ends::kLayout, kPairs, kRows, kColumns};
     return &RunSmallPairs<Ends, kPairs, kRows, kColumns>;
@@ -320,7 +325,7 @@ HWY_INLINE FftKernel<typename Ends::Value> smallKernel(FftShape* shape) {
 template <class Ends>
 FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
   using T = typename Ends::Value;
-  constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
+  constexpr size_t kLanes = MaxLanes(FftTag<T>());
   constexpr size_t kColumns = HWY_MAX(kLanes, 8);
   *shape = {FftSize::kSmall, Ends::kLayout, 1, size_t{1} << order, 1};
   switch (order) {

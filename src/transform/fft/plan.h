@@ -14,7 +14,7 @@ enum class Layout { kInterleaved, kSplit };
 // order.
 template <class T>
 constexpr size_t laneOrder(Layout layout, size_t lanes, size_t lane) {
-  if (layout == Layout::kSplit) return lane;
+  if (layout == Layout::kSplit || lanes == 1) return lane;
   const size_t block = lanes < 16 / sizeof(T) ? lanes : 16 / sizeof(T);
   const size_t half = block / 2;
   const size_t position = half * (lane / block) + lane % half;
