@@ -1,6 +1,16 @@
 """What the headers do not tell the contract sweep. An entry that matches nothing is an error."""
 
-from rules import INT_MAX, INT_MIN, LengthFirst, NoPartner, NotSwept, ScalarsFirst, Span, Values
+from rules import (
+    INT_MAX,
+    INT_MIN,
+    LengthFirst,
+    MayBeNull,
+    NoPartner,
+    NotSwept,
+    ScalarsFirst,
+    Span,
+    Values,
+)
 
 EXCEPTIONS = (
     NotSwept(
@@ -49,6 +59,19 @@ EXCEPTIONS = (
     NoPartner(
         r"veksAddProduct_\w+",
         reason="adds to its destination; there is no other form",
+    ),
+    MayBeNull(
+        r"veks(Min|Max)Indx_\w+",
+        parameters=r"pIndx",
+        reason="the value alone may be asked for",
+    ),
+    NoPartner(
+        r"veks(Min|Max)Every_\w+",
+        reason="exist in place only",
+    ),
+    LengthFirst(
+        r"veksMaxOrder_\w+",
+        reason="so documented",
     ),
     NotSwept(
         r"veksJoin_32f16s_D2L",

@@ -11,13 +11,23 @@ import sys
 from pathlib import Path
 
 from declarations import DeclarationError, parse_files
-from rules import LengthFirst, NoPartner, NotSwept, ScalarsFirst, Span, TargetsDiffer, Values
+from rules import (
+    LengthFirst,
+    MayBeNull,
+    NoPartner,
+    NotSwept,
+    ScalarsFirst,
+    Span,
+    TargetsDiffer,
+    Values,
+)
 
 SAMPLE = r"Vek\d+[usf]c?"
 ROLES = (
     (rf"const {SAMPLE}\*", r"pSrc(?!Dst)\w*", "source"),
     (rf"{SAMPLE}\*", r"pDst\w*", "destination"),
     (rf"{SAMPLE}\*", r"pSrcDst\w*", "sourceDestination"),
+    (rf"({SAMPLE}|int)\*", r"p(Sum|Mean|StdDev|Min|Max|Indx|Norm|Dp|Order|Val)", "result"),
     (r"int", r"len", "length"),
     (SAMPLE, r"val", "scalar"),
 )
@@ -111,7 +121,8 @@ def parameter_text(swept, position, book):
         rule = book.find(Span, function, parameter)
         if rule:
             arguments.append(f"Span{{{rule.per_len}, {rule.fixed}}}")
-    return f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
+    text = f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
+    return f"mayBeNull({text})" if book.find(MayBeNull, function, parameter) else text
 
 
 def check_order(swept, book):

@@ -1,13 +1,27 @@
 """What planted.h does not tell the contract sweep."""
 
-from rules import INT_MIN, LengthFirst, NoPartner, ScalarsFirst, Span, TargetsDiffer, Values
+from rules import (
+    INT_MIN,
+    LengthFirst,
+    MayBeNull,
+    NoPartner,
+    ScalarsFirst,
+    Span,
+    TargetsDiffer,
+    Values,
+)
 
 EXCEPTIONS = (
+    MayBeNull(
+        r"veksPlanted(Optional|Required)Indx_16s",
+        parameters=r"pIndx",
+        reason="only the value is asked for; the second rejects that",
+    ),
     Span(
-        r"veksPlanted(Two)?Sums?_8u",
-        parameters=r"pSum",
-        fixed=1,
-        reason="a single result",
+        r"veksPlantedPair_8u",
+        parameters=r"pDst",
+        fixed=2,
+        reason="two results",
     ),
     Values(
         r"veksPlanted\w*Shift\w*_16u",
