@@ -1,6 +1,8 @@
 // Array expressions of Eigen.
 #include "comparisons.h"
 #include "peers/eigen_arrays.h"
+#include "peers/eigen_reductions.h"
+#include "stats/reductions.h"
 
 namespace veks::bench {
 namespace {
@@ -63,6 +65,27 @@ Peer thresholdValue() {
 template <class T>
 Peer near(Peer peer) {
   return approximate(nearAgreement<T>(), std::move(peer));
+}
+
+template <class Side, class T>
+Peer extreme() {
+  return reduction(kName, eigen::Extreme<Side, T>::value);
+}
+
+template <class Side, class T>
+Peer extremeAndIndex() {
+  return reduction(kName, eigen::Extreme<Side, T>::valueAndIndex);
+}
+
+// Sums in another order.
+template <class Kind, class T>
+Peer norm() {
+  return approximate(sumAgreement<T>(), reduction(kName, eigen::Norm<Kind, T>::own));
+}
+
+template <class Kind, class T>
+Peer normOfDifference() {
+  return approximate(sumAgreement<T>(), reduction(kName, eigen::Norm<Kind, T>::ofDifference));
 }
 
 const OptionalPeers peers({
@@ -166,6 +189,33 @@ const OptionalPeers peers({
     {"veksThreshold_GTVal_32f", thresholdValue<Above, Vek32f>()},
     {"veksThreshold_GT_64f", threshold<Above, Vek64f>()},
     {"veksThreshold_GTVal_64f", thresholdValue<Above, Vek64f>()},
+    {"veksMin_16s", extreme<Less, Vek16s>()},
+    {"veksMinIndx_16s", extremeAndIndex<Less, Vek16s>()},
+    {"veksMin_32f", extreme<Less, Vek32f>()},
+    {"veksMinIndx_32f", extremeAndIndex<Less, Vek32f>()},
+    {"veksMin_64f", extreme<Less, Vek64f>()},
+    {"veksMinIndx_64f", extremeAndIndex<Less, Vek64f>()},
+    {"veksMax_16s", extreme<Greater, Vek16s>()},
+    {"veksMaxIndx_16s", extremeAndIndex<Greater, Vek16s>()},
+    {"veksMax_32f", extreme<Greater, Vek32f>()},
+    {"veksMaxIndx_32f", extremeAndIndex<Greater, Vek32f>()},
+    {"veksMax_64f", extreme<Greater, Vek64f>()},
+    {"veksMaxIndx_64f", extremeAndIndex<Greater, Vek64f>()},
+    {"veksMinMax_16s", reduction(kName, eigen::minMax<Vek16s>)},
+    {"veksMinMax_32f", reduction(kName, eigen::minMax<Vek32f>)},
+    {"veksMinMax_64f", reduction(kName, eigen::minMax<Vek64f>)},
+    {"veksNorm_Inf_32f", norm<NormInf, Vek32f>()},
+    {"veksNormDiff_Inf_32f", normOfDifference<NormInf, Vek32f>()},
+    {"veksNorm_Inf_64f", norm<NormInf, Vek64f>()},
+    {"veksNormDiff_Inf_64f", normOfDifference<NormInf, Vek64f>()},
+    {"veksNorm_L1_32f", norm<NormL1, Vek32f>()},
+    {"veksNormDiff_L1_32f", normOfDifference<NormL1, Vek32f>()},
+    {"veksNorm_L1_64f", norm<NormL1, Vek64f>()},
+    {"veksNormDiff_L1_64f", normOfDifference<NormL1, Vek64f>()},
+    {"veksNorm_L2_32f", norm<NormL2, Vek32f>()},
+    {"veksNormDiff_L2_32f", normOfDifference<NormL2, Vek32f>()},
+    {"veksNorm_L2_64f", norm<NormL2, Vek64f>()},
+    {"veksNormDiff_L2_64f", normOfDifference<NormL2, Vek64f>()},
 });
 
 }  // namespace

@@ -2,7 +2,9 @@
 // a = 1 or -1, and y = a * y.
 #include <cblas.h>
 
-#include "comparisons.h"
+#include <cmath>
+
+#include "stats/reductions.h"
 
 namespace veks::bench {
 namespace {
@@ -25,6 +27,22 @@ constexpr double kOne64fc[] = {1, 0};
 constexpr float kMinusOne32fc[] = {-1, 0};
 constexpr double kMinusOne64fc[] = {-1, 0};
 
+// Norms: sums of magnitudes, roots of sums of squares, and the position of the largest magnitude.
+template <class T, class R, R (*sum)(int, const T*, int)>
+void norm(const T* src, int len, R* result) {
+  *result = sum(len, src, 1);
+}
+
+template <class T, size_t (*position)(int, const T*, int)>
+void largest(const T* src, int len, T* result) {
+  *result = std::fabs(src[position(len, src, 1)]);
+}
+
+template <class R, class T>
+Peer nearSum(void (*function)(const T*, int, R*)) {
+  return approximate(sumAgreement<R>(), reduction(kName, function));
+}
+
 std::vector<OptionalPeer> onOneThread() {
   openblas_set_num_threads(1);
   return {
@@ -40,6 +58,12 @@ std::vector<OptionalPeer> onOneThread() {
       {"veksMulC_64f_I", scale(cblas_dscal, kInPlaceFactor)},
       {"veksMulC_32fc_I", scale(cblas_cscal, kMinusOne32fc)},
       {"veksMulC_64fc_I", scale(cblas_zscal, kMinusOne64fc)},
+      {"veksNorm_Inf_32f", reduction(kName, largest<float, cblas_isamax>)},
+      {"veksNorm_Inf_64f", reduction(kName, largest<double, cblas_idamax>)},
+      {"veksNorm_L1_32f", nearSum(norm<float, float, cblas_sasum>)},
+      {"veksNorm_L1_64f", nearSum(norm<double, double, cblas_dasum>)},
+      {"veksNorm_L2_32f", nearSum(norm<float, float, cblas_snrm2>)},
+      {"veksNorm_L2_64f", nearSum(norm<double, double, cblas_dnrm2>)},
   };
 }
 

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "comparisons.h"
+#include "stats/reductions.h"
 
 namespace veks::bench {
 namespace {
@@ -53,6 +53,21 @@ Peer withValue(void (**function)(P...), Value value) {
 lv_32fc_t complexConstant() {
   const Vek32fc value = constant<Vek32fc>();
   return lv_cmake(value.re, value.im);
+}
+
+// Positions alone; the value is read there.
+template <void (**position)(uint32_t*, const float*, uint32_t)>
+void extreme(const float* src, int len, float* value, int* index) {
+  uint32_t at = 0;
+  (*position)(&at, src, static_cast<uint32_t>(len));
+  *value = src[at];
+  *index = static_cast<int>(at);
+}
+
+// It counts positions in floats, which miss them from 2^24 on: its results are not compared.
+template <void (**function)(uint32_t*, const float*, uint32_t)>
+Peer position() {
+  return approximate([](auto...) { return true; }, reduction(kName, extreme<function>));
 }
 
 // It multiplies by the scale factor into integers and divides by it out of them.
@@ -107,6 +122,9 @@ const OptionalPeers peers({
     {"veksConvert_32f8s_Sfs", withValue(&volk_32f_s32f_convert_8i, kFactorToInteger)},
     {"veksConvert_32f16s_Sfs", withValue(&volk_32f_s32f_convert_16i, kFactorToInteger)},
     {"veksConvert_32f32s_Sfs", withValue(&volk_32f_s32f_convert_32i, kFactorToInteger)},
+
+    {"veksMinIndx_32f", position<&volk_32f_index_min_32u>()},
+    {"veksMaxIndx_32f", position<&volk_32f_index_max_32u>()},
 
     {"veksAnd_32u", two(&volk_32i_x2_and_32i)},
     {"veksAnd_32u_I", twoInPlace(&volk_32i_x2_and_32i)},

@@ -4,6 +4,7 @@ from rules import (
     INT_MAX,
     INT_MIN,
     LengthFirst,
+    MayBeNull,
     NoPartner,
     NotSwept,
     ScalarsFirst,
@@ -82,6 +83,19 @@ EXCEPTIONS = (
     SourceAtStart(
         r"veksConj(Pack|Perm|CCS)_\d+[sf]c_I",
         reason="a packed spectrum becomes the full one",
+    ),
+    MayBeNull(
+        r"veks(Min|Max)Indx_\w+",
+        parameters=r"pIndx",
+        reason="the value alone may be asked for",
+    ),
+    NoPartner(
+        r"veks(Min|Max)Every_\w+",
+        reason="exist in place only",
+    ),
+    LengthFirst(
+        r"veksMaxOrder_\w+",
+        reason="so documented",
     ),
     NotSwept(
         r"veksJoin_32f16s_D2L",

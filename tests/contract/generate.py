@@ -13,6 +13,7 @@ from pathlib import Path
 from declarations import DeclarationError, parse_files
 from rules import (
     LengthFirst,
+    MayBeNull,
     NoPartner,
     NotSwept,
     ScalarsFirst,
@@ -27,6 +28,7 @@ ROLES = (
     (rf"const {SAMPLE}\*", r"pSrc(?!Dst)\w*", "source"),
     (rf"{SAMPLE}\*", r"pDst\w*", "destination"),
     (rf"{SAMPLE}\*", r"pSrcDst\w*", "sourceDestination"),
+    (rf"({SAMPLE}|int)\*", r"p(Sum|Mean|StdDev|Min|Max|Indx|Norm|Dp|Order|Val)", "result"),
     (r"int", r"len|lenDst", "length"),
     (SAMPLE, r"val", "scalar"),
 )
@@ -123,7 +125,8 @@ def parameter_text(swept, position, book):
         rule = book.find(Span, function, parameter)
         if rule:
             arguments.append(f"Span{{{rule.per_len}, {rule.fixed}, {rule.per_two}}}")
-    return f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
+    text = f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
+    return f"mayBeNull({text})" if book.find(MayBeNull, function, parameter) else text
 
 
 def check_order(swept, book):

@@ -61,6 +61,11 @@ class Span(ParameterRule):
 
 
 @dataclass(frozen=True, kw_only=True)
+class MayBeNull(ParameterRule):
+    """Pointers that a caller may leave out."""
+
+
+@dataclass(frozen=True, kw_only=True)
 class Values(ParameterRule):
     """Scalars with their valid values, and bad ones by the name of their status."""
 

@@ -3,9 +3,13 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "support.h"
+#include "veks/stats/extremes.h"
+#include "veks/stats/norms.h"
 #include "veks/vector/initialisation.h"
 #include "veks/vector/logical.h"
 
@@ -48,6 +52,15 @@ class LongRange {
   template <class T>
   T* end() const {
     return reinterpret_cast<T*>(base_ + size_ - kAfter);
+  }
+
+  // All elements, and what lies around them.
+  template <class T>
+  void fill(T value) const {
+    const size_t count = kBlock / sizeof(T);
+    for (uint8_t* const block : {base_, base_ + kBlock, base_ + size_ - kBlock}) {
+      std::fill_n(reinterpret_cast<T*>(block), count, value);
+    }
   }
 
   static constexpr size_t kAfter = 64;
@@ -109,6 +122,29 @@ TEST_F(LongVectors, InPlaceAtTheLargestLength) {
   ASSERT_EQ(veksMove_8u(srcDst, srcDst + 1, kMaxLen - 1), vekStsOk);
   EXPECT_EQ(srcDst[1], 0xF4);
   EXPECT_EQ(range.end<Vek8u>()[-1], 0xF2);
+}
+
+TEST_F(LongVectors, NormsOfTheLargestLength) {
+  if (sizeof(void*) == 4) GTEST_SKIP() << "8 GiB do not fit the address space";
+  const LongRange low(static_cast<size_t>(kMaxLen) * sizeof(Vek16s));
+  const LongRange high(static_cast<size_t>(kMaxLen) * sizeof(Vek16s));
+  ASSERT_TRUE(low.good() && high.good());
+  low.fill(Vek16s{-32768});
+  high.fill(Vek16s{32767});
+  const Vek16s* const src1 = low.begin<Vek16s>();
+  const Vek16s* const src2 = high.begin<Vek16s>();
+  Vek32s sum = 0;
+  ASSERT_EQ(veksNormDiff_L1_16s32s_Sfs(src1, src2, kMaxLen, &sum, 17), vekStsOk);
+  EXPECT_EQ(sum, 1073725440);  // (2^31 - 1) (2^16 - 1) / 2^17 = 2^30 - 2^14 - 1/2 + 2^-17
+  Vek32f root = 0;
+  ASSERT_EQ(veksNormDiff_L2_16s32f(src1, src2, kMaxLen, &root), vekStsOk);
+  EXPECT_EQ(root, static_cast<Vek32f>(65535 * std::sqrt(double{kMaxLen})));
+  low.end<Vek16s>()[-1] = 5;
+  Vek16s max = 0;
+  int index = 0;
+  ASSERT_EQ(veksMaxIndx_16s(src1, kMaxLen, &max, &index), vekStsOk);
+  EXPECT_EQ(max, 5);
+  EXPECT_EQ(index, kMaxLen - 1);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 from rules import (
     INT_MIN,
     LengthFirst,
+    MayBeNull,
     NoPartner,
     ScalarsFirst,
     SourceAtStart,
@@ -12,11 +13,16 @@ from rules import (
 )
 
 EXCEPTIONS = (
+    MayBeNull(
+        r"veksPlanted(Optional|Required)Indx_16s",
+        parameters=r"pIndx",
+        reason="only the value is asked for; the second rejects that",
+    ),
     Span(
-        r"veksPlanted(Two)?Sums?_8u",
-        parameters=r"pSum",
-        fixed=1,
-        reason="a single result",
+        r"veksPlantedPair_8u",
+        parameters=r"pDst",
+        fixed=2,
+        reason="two results",
     ),
     Span(
         r"veksPlantedHalf(RoundedUp)?_16s",
