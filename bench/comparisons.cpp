@@ -1,6 +1,7 @@
 #include "comparisons.h"
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 #include <set>
 #include <string>
@@ -111,8 +112,12 @@ void addVectorCases(const char* name, std::vector<Peer> contestants, const Eleme
                        [&v](const Peer& peer) { return peer(v); });
         const bool overlaps = placement == Placement::kUp || placement == Placement::kDown;
         if (size.isLong && !overlaps) addYardstick(all, v, settings.destination);
-        compare(state, {all, [&v] { v.fillOutput(); }, v.output(), v.outputBytes(),
-                        trafficOf(v, settings.destination)});
+        const auto prepare = [&] {
+          v.fillOutput();
+          std::memset(v.dst(), 0, settings.resultBytes);
+        };
+        const size_t outputBytes = v.outputBytes() + settings.resultBytes;
+        compare(state, {all, prepare, v.output(), outputBytes, trafficOf(v, settings.destination)});
       };
       addBenchmark(std::string(name) + '/' + size.name + '/' + nameOf(placement),
                    size.isLong ? 11 : 31, run);

@@ -61,6 +61,7 @@ struct VectorCase {
   Destination destination = Destination::kWritten;
   Content content = {};
   Elements elements = {};  // where the signature does not tell them
+  size_t resultBytes = 0;  // of what a reduction gives in place of a vector
 };
 inline constexpr VectorCase kInPlace = {Destination::kUpdated, {}, {}};
 

@@ -2,7 +2,7 @@
 // a = 1 or -1, and y = a * y.
 #include <cblas.h>
 
-#include "comparisons.h"
+#include "stats/sum_agreement.h"
 
 namespace veks::bench {
 namespace {
@@ -25,6 +25,21 @@ constexpr double kOne64fc[] = {1, 0};
 constexpr float kMinusOne32fc[] = {-1, 0};
 constexpr double kMinusOne64fc[] = {-1, 0};
 
+template <class T, class R, R (*function)(int, const T*, int, const T*, int)>
+void dot(const T* src1, const T* src2, int len, R* result) {
+  *result = function(len, src1, 1, src2, 1);
+}
+
+template <void (*function)(int, const void*, int, const void*, int, void*), class C>
+void complexDot(const C* src1, const C* src2, int len, C* result) {
+  function(len, src1, 1, src2, 1, result);
+}
+
+template <class T, class R>
+Peer reorderedDot(void (*function)(const T*, const T*, int, R*)) {
+  return reordered<R>(reduction(kName, function));
+}
+
 std::vector<OptionalPeer> onOneThread() {
   openblas_set_num_threads(1);
   return {
@@ -40,6 +55,13 @@ std::vector<OptionalPeer> onOneThread() {
       {"veksMulC_64f_I", scale(cblas_dscal, kInPlaceFactor)},
       {"veksMulC_32fc_I", scale(cblas_cscal, kMinusOne32fc)},
       {"veksMulC_64fc_I", scale(cblas_zscal, kMinusOne64fc)},
+      {"veksDotProd_32f", reorderedDot(dot<float, float, cblas_sdot>)},
+      {"veksDotProd_64f", reorderedDot(dot<double, double, cblas_ddot>)},
+      // It adds blocks of products in single precision.
+      {"veksDotProd_32f64f", approximate(withinRelative<Vek64f>(1e-4),
+                                         reduction(kName, dot<float, double, cblas_dsdot>))},
+      {"veksDotProd_32fc", reorderedDot(complexDot<cblas_cdotu_sub, Vek32fc>)},
+      {"veksDotProd_64fc", reorderedDot(complexDot<cblas_zdotu_sub, Vek64fc>)},
   };
 }
 

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "comparisons.h"
+#include "stats/sum_agreement.h"
 
 namespace veks::bench {
 namespace {
@@ -55,6 +55,18 @@ lv_32fc_t complexConstant() {
   return lv_cmake(value.re, value.im);
 }
 
+// function(result, src, len)
+template <class R, class... P>
+Peer sum(void (**function)(P...)) {
+  return reordered<R>(peerWith(kName, function, kDst, kSrc1, kLen));
+}
+
+// function(result, src1, src2, len). The product with a real vector needs aligned ones.
+template <class R, class... P>
+Peer dot(void (**function)(P...)) {
+  return reordered<R>(two(function));
+}
+
 // It multiplies by the scale factor into integers and divides by it out of them.
 const float kFactorToInteger = std::ldexp(1.0F, -kToInteger);
 const float kDivisorFromInteger = std::ldexp(1.0F, -kToInteger);
@@ -96,6 +108,11 @@ const OptionalPeers peers({
     {"veksConvert_32f8s_Sfs", withValue(&volk_32f_s32f_convert_8i, kFactorToInteger)},
     {"veksConvert_32f16s_Sfs", withValue(&volk_32f_s32f_convert_16i, kFactorToInteger)},
     {"veksConvert_32f32s_Sfs", withValue(&volk_32f_s32f_convert_32i, kFactorToInteger)},
+
+    {"veksSum_32f:fast", sum<Vek32f>(&volk_32f_accumulator_s32f)},
+    {"veksSum_32fc", sum<Vek32fc>(&volk_32fc_accumulator_s32fc)},
+    {"veksDotProd_32f", dot<Vek32f>(&volk_32f_x2_dot_prod_32f)},
+    {"veksDotProd_32fc", dot<Vek32fc>(&volk_32fc_x2_dot_prod_32fc)},
 
     {"veksAnd_32u", two(&volk_32i_x2_and_32i)},
     {"veksAnd_32u_I", twoInPlace(&volk_32i_x2_and_32i)},

@@ -84,6 +84,22 @@ inline VekStatus mapChecked(Kernel kernel, const S* src, T* dst, int len, VekSta
   return check != vekStsOk ? check : kernel(src, dst, static_cast<size_t>(len), parameters...);
 }
 
+// kernel(src, n, result, parameters ...)
+template <class Kernel, class S, class R, class... P>
+inline VekStatus reduceOne(Kernel kernel, const S* src, int len, R* result, P... parameters) {
+  const VekStatus status = checkVectors(len, src, result);
+  return status != vekStsOk ? status : kernel(src, static_cast<size_t>(len), result, parameters...);
+}
+
+// kernel(src1, src2, n, result, parameters ...)
+template <class Kernel, class S1, class S2, class R, class... P>
+inline VekStatus reduceTwo(Kernel kernel, const S1* src1, const S2* src2, int len, R* result,
+                           P... parameters) {
+  const VekStatus status = checkVectors(len, src1, src2, result);
+  if (status != vekStsOk) return status;
+  return kernel(src1, src2, static_cast<size_t>(len), result, parameters...);
+}
+
 }  // namespace veks
 
 #endif

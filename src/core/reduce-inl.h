@@ -18,6 +18,8 @@
 
 #include <hwy/highway.h>
 
+#include <utility>
+
 #include "core/targets.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -34,38 +36,88 @@ HWY_INLINE hn::Vec<D> loadPartial(D d, const T* src, size_t count) {
 #else
   HWY_ALIGN T elements[MaxLanes(d)];
   hn::Store(hn::Zero(d), d, elements);
+  // By bytes: a complex element may be aligned to less than the integer that it is loaded as.
 #pragma GCC unroll 1
-  for (size_t i = 0; i < count; ++i) elements[i] = src[i];
+  for (size_t i = 0; i < count; ++i) hwy::CopyBytes<sizeof(T)>(src + i, elements + i);
   return hn::Load(d, elements);
 #endif
 }
 
-// Takes in n elements of the sources, kWays vectors side by side.
+// The elements of a source that a full vector of D counts, and the first of them. Overloads serve
+// elements that fill more than a vector.
+template <class D, class T>
+HWY_INLINE auto loadElements(D /*d*/, const T* src) {
+  return hn::LoadU(hn::Rebind<T, D>(), src);
+}
+template <class D, class T>
+HWY_INLINE auto loadElements(D /*d*/, const T* src, size_t count) {
+  return loadPartial(hn::Rebind<T, D>(), src, count);
+}
+
+template <class Reduction, class Sum, class... T>
+HWY_INLINE void addVector(const Reduction& reduction, Sum& sum, size_t i, const T*... src) {
+  reduction.add(sum, loadElements(decltype(reduction.d)(), src + i)...);
+}
+
+// A full vector for each of the sums k.
+template <size_t... k, class Reduction, class Sum, class... T>
+HWY_INLINE void addVectors(std::index_sequence<k...> /*sums*/, const Reduction& reduction,
+                           Sum* sums, size_t i, const T*... src) {
+  constexpr size_t kLanes = MaxLanes(decltype(reduction.d)());
+  (addVector(reduction, sums[k], i + k * kLanes, src...), ...);
+}
+
+// What is left goes to the sums from kFirst on in turn, kCount vectors or none, half of that and so
+// on, and the last one with fewer elements.
+template <size_t kFirst, size_t kCount, class Reduction, class Sum, class... T>
+HWY_INLINE void addRest(const Reduction& reduction, Sum* sums, size_t i, size_t n,
+                        const T*... src) {
+  using D = decltype(reduction.d);
+  constexpr size_t kLanes = MaxLanes(D());
+  if constexpr (kCount == 0) {
+    if (i < n) reduction.add(sums[kFirst], loadElements(D(), src + i, n - i)...);
+  } else if (i + kCount * kLanes <= n) {
+    addVectors(std::make_index_sequence<kCount>(), reduction, sums + kFirst, i, src...);
+    addRest<kFirst + kCount, kCount / 2>(reduction, sums, i + kCount * kLanes, n, src...);
+  } else {
+    addRest<kFirst, kCount / 2>(reduction, sums, i, n, src...);
+  }
+}
+
+template <size_t... k, class Reduction, class Sum>
+HWY_INLINE void clearSums(std::index_sequence<k...> /*sums*/, const Reduction& reduction,
+                          Sum* sums) {
+  ((sums[k] = reduction.zero()), ...);
+}
+
+// Merges the second half of the sums into the first and so on.
+template <size_t... k, class Reduction, class Sum>
+HWY_INLINE void mergeSums(std::index_sequence<k...> /*half*/, const Reduction& reduction,
+                          Sum* sums) {
+  (reduction.merge(sums[k], sums[k + sizeof...(k)]), ...);
+  if constexpr (sizeof...(k) > 1) {
+    mergeSums(std::make_index_sequence<sizeof...(k) / 2>(), reduction, sums);
+  }
+}
+
+// Takes in n elements of the sources, kWays vectors side by side, a power of two. The sums have
+// constant indices, without loops that the compiler would have to unroll first: only so it keeps
+// them in registers throughout.
 template <size_t kWays, class Reduction, class... T>
 HWY_INLINE auto reduce(const Reduction& reduction, size_t n, const T*... src) {
   using D = decltype(reduction.d);
   constexpr size_t kLanes = MaxLanes(D());
+  constexpr std::make_index_sequence<kWays> kAll;
   using Sum = decltype(reduction.zero());
   Sum sums[kWays];
-  for (size_t k = 0; k < kWays; ++k) sums[k] = reduction.zero();
+  clearSums(kAll, reduction, sums);
   size_t i = 0;
   for (; i + kWays * kLanes <= n; i += kWays * kLanes) {
-#pragma GCC unroll 16
-    for (size_t k = 0; k < kWays; ++k) {
-      reduction.add(sums[k], hn::LoadU(hn::Rebind<T, D>(), src + i + k * kLanes)...);
-    }
+    addVectors(kAll, reduction, sums, i, src...);
   }
-  // What is left goes to the sums in turn, at most kWays vectors, the last one with fewer elements.
-#pragma GCC unroll 16
-  for (size_t k = 0; k < kWays; ++k) {
-    if (i + kLanes > n) break;
-    reduction.add(sums[k], hn::LoadU(hn::Rebind<T, D>(), src + i)...);
-    i += kLanes;
-  }
-  if (i < n) reduction.add(sums[kWays - 1], loadPartial(hn::Rebind<T, D>(), src + i, n - i)...);
-  for (size_t width = kWays / 2; width > 0; width /= 2) {
-#pragma GCC unroll 16
-    for (size_t k = 0; k < width; ++k) reduction.merge(sums[k], sums[k + width]);
+  addRest<0, kWays / 2>(reduction, sums, i, n, src...);
+  if constexpr (kWays > 1) {
+    mergeSums(std::make_index_sequence<kWays / 2>(), reduction, sums);
   }
   return sums[0];
 }

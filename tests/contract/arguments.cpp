@@ -9,7 +9,8 @@ namespace {
 
 constexpr int kLen = 8;
 
-// Bad values for some arguments, if any, the status that they call for, and the same in words.
+// Unusual values for some arguments, if any, the error that they call for, if any, and the same in
+// words.
 struct Replacement {
   VekStatus status = vekStsOk;
   std::vector<std::pair<size_t, Value>> values;
@@ -24,7 +25,8 @@ std::vector<Replacement> nullPointers(const Descriptor& function) {
   for (size_t i = 0; i < function.count; ++i) {
     const Parameter& parameter = function.parameters[i];
     if (!parameter.isPointer()) continue;
-    all.push_back({vekErrNullPtr, {{i, null}}, std::string(", ") + parameter.name + " null"});
+    const VekStatus status = parameter.mayBeNull ? vekStsOk : vekErrNullPtr;
+    all.push_back({status, {{i, null}}, std::string(", ") + parameter.name + " null"});
     everyPointer.values.push_back({i, null});
   }
   all.push_back(everyPointer);
@@ -35,7 +37,7 @@ std::vector<Replacement> badLengths(const Descriptor& function) {
   std::vector<Replacement> all(1);
   for (size_t i = 0; i < function.count; ++i) {
     if (function.parameters[i].role != Role::kLength) continue;
-    for (const int len : {0, -1, INT_MIN}) {
+    for (const int len : {function.leastLength - 1, 0, -1, INT_MIN}) {
       all.push_back({vekErrSize, {{i, valueOf(len)}}, ", len " + std::to_string(len)});
     }
   }
@@ -55,7 +57,7 @@ std::vector<Replacement> badScalars(const Descriptor& function) {
   return all;
 }
 
-// The first replacement that calls for a status determines it.
+// The first replacement that calls for an error determines it.
 void checkReplacements(Invocation& call, const std::vector<const Replacement*>& replacements,
                        Report& report) {
   call.place({true, 0});
@@ -63,7 +65,7 @@ void checkReplacements(Invocation& call, const std::vector<const Replacement*>& 
   std::string text;
   for (const Replacement* const replacement : replacements) {
     for (const auto& [argument, value] : replacement->values) call.set(argument, value);
-    if (!wanted && !replacement->values.empty()) wanted = replacement->status;
+    if (!wanted && replacement->status != vekStsOk) wanted = replacement->status;
     text += replacement->text;
   }
   if (report.run(call, wanted, text) && wanted) {

@@ -89,6 +89,7 @@ struct Parameter {
   size_t alignment;
   Lane lane;
   Span span;
+  bool mayBeNull;
   // Of a scalar: its value for a number, or for two if it is complex.
   Value (*fromNumbers)(double re, double im);
   List<double> valid;
@@ -110,6 +111,7 @@ struct Descriptor {
   const Descriptor* outOfPlace;  // what an in-place function equals
   bool sameOnTargets;            // results equal to the last bit
   CheckOrder order;
+  int leastLength;
   size_t count;
   Parameter parameters[kMaxParameters];
 };
@@ -142,7 +144,8 @@ inline constexpr char kTypeTag = 0;
 
 template <class T>
 constexpr Parameter pointer(const char* name, Role role, Span span) {
-  return {name, role, &kTypeTag<T>, sizeof(T), alignof(T), laneOf<T>(), span, nullptr, {}, {}};
+  return {name, role,  &kTypeTag<T>, sizeof(T), alignof(T), laneOf<T>(),
+          span, false, nullptr,      {},        {}};
 }
 
 template <class T>
@@ -153,6 +156,17 @@ constexpr Parameter source(const char* name, Span span = {}) {
 template <class T>
 constexpr Parameter destination(const char* name, Span span = {}) {
   return pointer<T>(name, Role::kDestination, span);
+}
+
+// One value, for any length.
+template <class T>
+constexpr Parameter result(const char* name) {
+  return pointer<T>(name, Role::kDestination, {0, 1});
+}
+
+constexpr Parameter mayBeNull(Parameter parameter) {
+  parameter.mayBeNull = true;
+  return parameter;
 }
 
 template <class T>
@@ -180,11 +194,11 @@ template <class T>
 constexpr Parameter scalar(const char* name,
                            List<double> valid = kAnyNumber<typename LaneOf<T>::Type>,
                            List<BadValue> bad = {}) {
-  return {name, Role::kScalar, nullptr, 0, 0, laneOf<T>(), {}, fromNumbers<T>, valid, bad};
+  return {name, Role::kScalar, nullptr, 0, 0, laneOf<T>(), {}, false, fromNumbers<T>, valid, bad};
 }
 
 constexpr Parameter length(const char* name) {
-  return {name, Role::kLength, nullptr, 0, 0, Lane::kInteger, {}, nullptr, {}, {}};
+  return {name, Role::kLength, nullptr, 0, 0, Lane::kInteger, {}, false, nullptr, {}, {}};
 }
 
 }  // namespace veks::contract

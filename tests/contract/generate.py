@@ -11,13 +11,24 @@ import sys
 from pathlib import Path
 
 from declarations import DeclarationError, parse_files
-from rules import LengthFirst, NoPartner, NotSwept, ScalarsFirst, Span, TargetsDiffer, Values
+from rules import (
+    LeastLength,
+    LengthFirst,
+    MayBeNull,
+    NoPartner,
+    NotSwept,
+    ScalarsFirst,
+    Span,
+    TargetsDiffer,
+    Values,
+)
 
 SAMPLE = r"Vek\d+[usf]c?"
 ROLES = (
     (rf"const {SAMPLE}\*", r"pSrc(?!Dst)\w*", "source"),
     (rf"{SAMPLE}\*", r"pDst\w*", "destination"),
     (rf"{SAMPLE}\*", r"pSrcDst\w*", "sourceDestination"),
+    (rf"({SAMPLE}|int)\*", r"p(Sum|Mean|StdDev|Min|Max|Indx|Norm|Dp|Order|Val)", "result"),
     (r"int", r"len", "length"),
     (SAMPLE, r"val", "scalar"),
 )
@@ -111,7 +122,8 @@ def parameter_text(swept, position, book):
         rule = book.find(Span, function, parameter)
         if rule:
             arguments.append(f"Span{{{rule.per_len}, {rule.fixed}}}")
-    return f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
+    text = f"{role}<{element_of(parameter)}>({', '.join(arguments)})"
+    return f"mayBeNull({text})" if book.find(MayBeNull, function, parameter) else text
 
 
 def check_order(swept, book):
@@ -122,6 +134,11 @@ def check_order(swept, book):
     return "CheckOrder::kPointersFirst"
 
 
+def least_length(swept, book):
+    rule = book.find(LeastLength, swept.function)
+    return rule.least if rule else 1
+
+
 def descriptor_text(swept, table, book):
     partner = partner_index(swept, table, book)
     fields = [
@@ -130,6 +147,7 @@ def descriptor_text(swept, table, book):
         "nullptr" if partner is None else f"&kFunctions[{partner}]",
         "false" if book.find(TargetsDiffer, swept.function) else "true",
         check_order(swept, book),
+        str(least_length(swept, book)),
         str(len(swept.roles)),
     ]
     parameters = [parameter_text(swept, position, book) for position in range(len(swept.roles))]

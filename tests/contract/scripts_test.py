@@ -10,7 +10,7 @@ import exports
 import headers
 from declarations import DeclarationError, Function, Parameter, parse
 from generate import generate
-from rules import NoPartner, NotSwept, Span, Values
+from rules import MayBeNull, NoPartner, NotSwept, Span, Values
 
 HERE = Path(__file__).parent
 NM, PLANTED_LIBRARY, CC, CXX = sys.argv[1:]
@@ -62,10 +62,10 @@ class GenerateTest(unittest.TestCase):
         self.assertIn('{scalar<Vek8u>("val"), destination<Vek8u>("pDst"), length("len")}', source)
 
     def test_what_cannot_be_classified_needs_an_exception(self):
-        sum_8u = "VEKS_API VekStatus veksSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum);"
-        self.assert_error(r"veksSum_8u: cannot classify 'Vek32s\* pSum'", sum_8u)
-        rule = Span("veksSum_8u", parameters="pSum", fixed=1, reason="one result")
-        self.assertIn('destination<Vek32s>("pSum", Span{0, 1})', self.generate(sum_8u, rule))
+        sums = "VEKS_API VekStatus veksSums_8u(const Vek8u* pSrc, int len, Vek32s* pSums);"
+        self.assert_error(r"veksSums_8u: cannot classify 'Vek32s\* pSums'", sums)
+        rule = Span("veksSums_8u", parameters="pSums", fixed=2, reason="two results")
+        self.assertIn('destination<Vek32s>("pSums", Span{0, 2})', self.generate(sums, rule))
 
         shift = "VEKS_API VekStatus veksShift_8u(int val, Vek8u* pDst, int len);"
         self.assert_error("veksShift_8u: cannot classify 'int val'", shift)
@@ -82,6 +82,13 @@ class GenerateTest(unittest.TestCase):
         ):
             with self.subTest(parameters):
                 self.assert_error("cannot classify", f"VEKS_API VekStatus veksOdd({parameters});")
+
+    def test_single_results_have_familiar_names(self):
+        parameters = "const Vek8u* pSrc, int len, Vek8u* pMax, int* pIndx"
+        text = f"VEKS_API VekStatus veksMaxIndx_8u({parameters});"
+        self.assertIn('result<Vek8u>("pMax"), result<int>("pIndx")', self.generate(text))
+        rule = MayBeNull("veksMaxIndx_8u", parameters="pIndx", reason="left out")
+        self.assertIn('mayBeNull(result<int>("pIndx"))', self.generate(text, rule))
 
     def test_other_shapes_need_an_exception(self):
         for text in (

@@ -1,13 +1,28 @@
 """What planted.h does not tell the contract sweep."""
 
-from rules import INT_MIN, LengthFirst, NoPartner, ScalarsFirst, Span, TargetsDiffer, Values
+from rules import (
+    INT_MIN,
+    LeastLength,
+    LengthFirst,
+    MayBeNull,
+    NoPartner,
+    ScalarsFirst,
+    Span,
+    TargetsDiffer,
+    Values,
+)
 
 EXCEPTIONS = (
+    MayBeNull(
+        r"veksPlanted(Optional|Required)Indx_16s",
+        parameters=r"pIndx",
+        reason="only the value is asked for; the second rejects that",
+    ),
     Span(
-        r"veksPlanted(Two)?Sums?_8u",
-        parameters=r"pSum",
-        fixed=1,
-        reason="a single result",
+        r"veksPlantedPair_8u",
+        parameters=r"pDst",
+        fixed=2,
+        reason="two results",
     ),
     Values(
         r"veksPlanted\w*Shift\w*_16u",
@@ -23,6 +38,11 @@ EXCEPTIONS = (
     LengthFirst(
         r"veksPlantedLengthFirst_8u|veksPlantedPointerFirst_8u",
         reason="the length is checked first; the second does not",
+    ),
+    LeastLength(
+        r"veksPlanted(TwoOrMore|OneOrMore)_8u",
+        least=2,
+        reason="the length must be 2; the second accepts 1",
     ),
     ScalarsFirst(
         r"veksPlantedShift(Before|After)_16u",

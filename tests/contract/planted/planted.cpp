@@ -52,6 +52,15 @@ VekStatus sum(const Vek8u* src, int len, Vek32s* result) {
   return vekStsOk;
 }
 
+// The last element and its position.
+VekStatus last(const Vek16s* src, int len, Vek16s* value, int* index) {
+  const VekStatus status = checkVectors(len, src, value);
+  if (status != vekStsOk) return status;
+  *value = src[len - 1];
+  if (index != nullptr) *index = len - 1;
+  return vekStsOk;
+}
+
 VekStatus shift(const Vek16u* src, int bits, Vek16u* dst, int len) {
   for (int i = 0; i < len; ++i) dst[i] = static_cast<Vek16u>(src[i] >> (bits & 15));
   return vekStsOk;
@@ -94,6 +103,18 @@ VekStatus veksPlantedSet_64fc(Vek64fc val, Vek64fc* pDst, int len) {
 
 VekStatus veksPlantedSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
   return sum(pSrc, len, pSum);
+}
+
+VekStatus veksPlantedPair_8u(const Vek8u* pSrc, int len, Vek8u* pDst) {
+  const VekStatus status = checkVectors(len, pSrc, pDst);
+  if (status != vekStsOk) return status;
+  pDst[0] = pSrc[0];
+  pDst[1] = pSrc[len - 1];
+  return vekStsOk;
+}
+
+VekStatus veksPlantedOptionalIndx_16s(const Vek16s* pSrc, int len, Vek16s* pMax, int* pIndx) {
+  return last(pSrc, len, pMax, pIndx);
 }
 
 VekStatus veksPlantedNegate_32s_I(Vek32s* pSrcDst, int len) {
@@ -181,6 +202,10 @@ VekStatus veksPlantedPointerFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
   return checkedCopy(pSrc, pDst, len);
 }
 
+VekStatus veksPlantedOneOrMore_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
+  return sum(pSrc, len, pSum);
+}
+
 VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
   const VekStatus status = checkVectors(len, pSrc, pDst);
   return status != vekStsOk ? status : shift(pSrc, val, pDst, len);
@@ -191,6 +216,10 @@ VekStatus veksPlantedShiftFirst_16u(const Vek16u* pSrc, int val, Vek16u* pDst, i
   return veksPlantedAnyShift_16u(pSrc, val, pDst, len);
 }
 
+VekStatus veksPlantedTwoOrMore_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
+  return sum(pSrc, len < 2 ? 0 : len, pSum);
+}
+
 VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
   return val < 0 ? vekErrShift : veksPlantedAnyShift_16u(pSrc, val, pDst, len);
 }
@@ -198,6 +227,15 @@ VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, 
 VekStatus veksPlantedShiftAfter_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
   const VekStatus status = checkVectors(len, pSrc, pDst);
   return status != vekStsOk ? status : veksPlantedShiftBefore_16u(pSrc, val, pDst, len);
+}
+
+VekStatus veksPlantedRequiredIndx_16s(const Vek16s* pSrc, int len, Vek16s* pMax, int* pIndx) {
+  return pIndx == nullptr ? vekErrNullPtr : last(pSrc, len, pMax, pIndx);
+}
+
+VekStatus veksPlantedEarlySum_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
+  if (pSum != nullptr) write(pSum, 0);
+  return sum(pSrc, len, pSum);
 }
 
 VekStatus veksPlantedFails_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
@@ -221,6 +259,10 @@ VekStatus veksPlantedNeighbour_16s(const Vek16s* pSrc, Vek16s* pDst, int len) {
 VekStatus veksPlantedIncomplete_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
   const VekStatus status = checkVectors(len, pSrc, pDst);
   return status != vekStsOk ? status : copy(pSrc, pDst, len - 1);
+}
+
+VekStatus veksPlantedNoSum_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
+  return checkVectors(len, pSrc, pSum);
 }
 
 VekStatus veksPlantedAlignedOnly_64f(const Vek64f* pSrc, Vek64f* pDst, int len) {
