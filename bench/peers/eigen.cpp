@@ -1,8 +1,12 @@
 // Array expressions of Eigen.
+#include <complex>
+
 #include "comparisons.h"
 #include "peers/eigen_arrays.h"
 #include "peers/eigen_reductions.h"
+#include "peers/eigen_sums.h"
 #include "stats/reductions.h"
+#include "stats/sum_agreement.h"
 
 namespace veks::bench {
 namespace {
@@ -88,7 +92,26 @@ Peer normOfDifference() {
   return approximate(sumAgreement<T>(), reduction(kName, eigen::Norm<Kind, T>::ofDifference));
 }
 
+template <class T, class E = T>
+Peer sum() {
+  return reordered<T>(reduction(kName, eigen::sum<T, E>));
+}
+
+template <class T, class E = T>
+Peer dot() {
+  return reordered<T>(reduction(kName, eigen::dot<T, E>));
+}
+
 const OptionalPeers peers({
+    {"veksSum_32f:fast", sum<Vek32f>()},
+    {"veksSum_64f", sum<Vek64f>()},
+    {"veksSum_32fc", sum<Vek32fc, std::complex<float>>()},
+    {"veksSum_64fc", sum<Vek64fc, std::complex<double>>()},
+    {"veksDotProd_32f", dot<Vek32f>()},
+    {"veksDotProd_64f", dot<Vek64f>()},
+    {"veksDotProd_32fc", dot<Vek32fc, std::complex<float>>()},
+    {"veksDotProd_64fc", dot<Vek64fc, std::complex<double>>()},
+
     {"veksAdd_32f", binary<Add, Vek32f>()},
     {"veksAdd_32f_I", binaryInPlace<Add, Vek32f>()},
     {"veksAdd_64f", binary<Add, Vek64f>()},

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "stats/reductions.h"
+#include "stats/sum_agreement.h"
 
 namespace veks::bench {
 namespace {
@@ -43,6 +44,21 @@ Peer nearSum(void (*function)(const T*, int, R*)) {
   return approximate(sumAgreement<R>(), reduction(kName, function));
 }
 
+template <class T, class R, R (*function)(int, const T*, int, const T*, int)>
+void dot(const T* src1, const T* src2, int len, R* result) {
+  *result = function(len, src1, 1, src2, 1);
+}
+
+template <void (*function)(int, const void*, int, const void*, int, void*), class C>
+void complexDot(const C* src1, const C* src2, int len, C* result) {
+  function(len, src1, 1, src2, 1, result);
+}
+
+template <class T, class R>
+Peer reorderedDot(void (*function)(const T*, const T*, int, R*)) {
+  return reordered<R>(reduction(kName, function));
+}
+
 std::vector<OptionalPeer> onOneThread() {
   openblas_set_num_threads(1);
   return {
@@ -64,6 +80,13 @@ std::vector<OptionalPeer> onOneThread() {
       {"veksNorm_L1_64f", nearSum(norm<double, double, cblas_dasum>)},
       {"veksNorm_L2_32f", nearSum(norm<float, float, cblas_snrm2>)},
       {"veksNorm_L2_64f", nearSum(norm<double, double, cblas_dnrm2>)},
+      {"veksDotProd_32f", reorderedDot(dot<float, float, cblas_sdot>)},
+      {"veksDotProd_64f", reorderedDot(dot<double, double, cblas_ddot>)},
+      // It adds blocks of products in single precision.
+      {"veksDotProd_32f64f", approximate(withinRelative<Vek64f>(1e-4),
+                                         reduction(kName, dot<float, double, cblas_dsdot>))},
+      {"veksDotProd_32fc", reorderedDot(complexDot<cblas_cdotu_sub, Vek32fc>)},
+      {"veksDotProd_64fc", reorderedDot(complexDot<cblas_zdotu_sub, Vek64fc>)},
   };
 }
 

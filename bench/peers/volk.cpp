@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "stats/reductions.h"
+#include "stats/sum_agreement.h"
 
 namespace veks::bench {
 namespace {
@@ -70,6 +71,18 @@ Peer position() {
   return approximate([](auto...) { return true; }, reduction(kName, extreme<function>));
 }
 
+// function(result, src, len)
+template <class R, class... P>
+Peer sum(void (**function)(P...)) {
+  return reordered<R>(peerWith(kName, function, kDst, kSrc1, kLen));
+}
+
+// function(result, src1, src2, len). The product with a real vector needs aligned ones.
+template <class R, class... P>
+Peer dot(void (**function)(P...)) {
+  return reordered<R>(two(function));
+}
+
 // It multiplies by the scale factor into integers and divides by it out of them.
 const float kFactorToInteger = std::ldexp(1.0F, -kToInteger);
 const float kDivisorFromInteger = std::ldexp(1.0F, -kToInteger);
@@ -125,6 +138,10 @@ const OptionalPeers peers({
 
     {"veksMinIndx_32f", position<&volk_32f_index_min_32u>()},
     {"veksMaxIndx_32f", position<&volk_32f_index_max_32u>()},
+    {"veksSum_32f:fast", sum<Vek32f>(&volk_32f_accumulator_s32f)},
+    {"veksSum_32fc", sum<Vek32fc>(&volk_32fc_accumulator_s32fc)},
+    {"veksDotProd_32f", dot<Vek32f>(&volk_32f_x2_dot_prod_32f)},
+    {"veksDotProd_32fc", dot<Vek32fc>(&volk_32fc_x2_dot_prod_32fc)},
 
     {"veksAnd_32u", two(&volk_32i_x2_and_32i)},
     {"veksAnd_32u_I", twoInPlace(&volk_32i_x2_and_32i)},

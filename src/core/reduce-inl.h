@@ -21,17 +21,10 @@
 #include <hwy/highway.h>
 
 #include <type_traits>
+#include <utility>
 
+#include "core/parts-inl.h"
 #include "core/targets.h"
-
-// Accumulators belong into registers. EMU128 has none: copies of its loops over lanes would only
-// take time to compile.
-#undef VEKS_UNROLL_WAYS
-#if HWY_TARGET == HWY_EMU128
-#define VEKS_UNROLL_WAYS _Pragma("GCC unroll 1")
-#else
-#define VEKS_UNROLL_WAYS _Pragma("GCC unroll 32")
-#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace veks {
@@ -47,20 +40,15 @@ HWY_INLINE hn::Vec<D> loadPartial(D d, const T* src, size_t count) {
 #else
   HWY_ALIGN T elements[MaxLanes(d)];
   hn::Store(hn::Zero(d), d, elements);
+  // By bytes: a complex element may be aligned to less than the integer that it is loaded as.
 #pragma GCC unroll 1
-  for (size_t i = 0; i < count; ++i) elements[i] = src[i];
+  for (size_t i = 0; i < count; ++i) hwy::CopyBytes<sizeof(T)>(src + i, elements + i);
   return hn::Load(d, elements);
 #endif
 }
 
-// The real and the imaginary parts of complex elements, each in its own vector.
-template <class V>
-struct Parts {
-  V re;
-  V im;
-};
-
-// Full vectors, and vectors of `count` elements and zeros; D has the lanes of the elements.
+// The elements of a source that a full vector of D counts, and the first of them with zeros.
+// Overloads serve elements that fill more than a vector.
 template <class D, class T>
 HWY_INLINE auto loadElements(D /*d*/, const T* src) {
   if constexpr (std::is_arithmetic_v<T>) {
@@ -72,7 +60,6 @@ HWY_INLINE auto loadElements(D /*d*/, const T* src) {
     return z;
   }
 }
-
 template <class D, class T>
 HWY_INLINE auto loadElements(D d, const T* src, size_t count) {
   if constexpr (std::is_arithmetic_v<T>) {
@@ -85,37 +72,75 @@ HWY_INLINE auto loadElements(D d, const T* src, size_t count) {
   }
 }
 
-// Takes in n elements of the sources, kWays vectors side by side.
+template <class Reduction, class Sum, class... T>
+HWY_INLINE void addVector(const Reduction& reduction, Sum& sum, size_t i, const T*... src) {
+  reduction.add(sum, loadElements(decltype(reduction.d)(), src + i)...);
+}
+
+// A full vector for each of the sums k.
+template <size_t... k, class Reduction, class Sum, class... T>
+HWY_INLINE void addVectors(std::index_sequence<k...> /*sums*/, const Reduction& reduction,
+                           Sum* sums, size_t i, const T*... src) {
+  constexpr size_t kLanes = MaxLanes(decltype(reduction.d)());
+  (addVector(reduction, sums[k], i + k * kLanes, src...), ...);
+}
+
+// What is left goes to the sums from kFirst on in turn, kCount vectors or none, half of that and so
+// on, and the last one, with fewer elements, by addLast(sum).
+template <size_t kFirst, size_t kCount, class Reduction, class Sum, class AddLast, class... T>
+HWY_INLINE void addRest(const Reduction& reduction, Sum* sums, size_t i, size_t n,
+                        const AddLast& addLast, const T*... src) {
+  constexpr size_t kLanes = MaxLanes(decltype(reduction.d)());
+  if constexpr (kCount == 0) {
+    if (i < n) addLast(sums[kFirst]);
+  } else if (i + kCount * kLanes <= n) {
+    addVectors(std::make_index_sequence<kCount>(), reduction, sums + kFirst, i, src...);
+    addRest<kFirst + kCount, kCount / 2>(reduction, sums, i + kCount * kLanes, n, addLast, src...);
+  } else {
+    addRest<kFirst, kCount / 2>(reduction, sums, i, n, addLast, src...);
+  }
+}
+
+template <size_t... k, class Reduction, class Sum>
+HWY_INLINE void clearSums(std::index_sequence<k...> /*sums*/, const Reduction& reduction,
+                          Sum* sums) {
+  ((sums[k] = reduction.zero()), ...);
+}
+
+// Merges the second half of the sums into the first and so on.
+template <size_t... k, class Reduction, class Sum>
+HWY_INLINE void mergeSums(std::index_sequence<k...> /*half*/, const Reduction& reduction,
+                          Sum* sums) {
+  (reduction.merge(sums[k], sums[k + sizeof...(k)]), ...);
+  if constexpr (sizeof...(k) > 1) {
+    mergeSums(std::make_index_sequence<sizeof...(k) / 2>(), reduction, sums);
+  }
+}
+
+// Takes in n elements of the sources, kWays vectors side by side, a power of two. The sums have
+// constant indices, without loops that the compiler would have to unroll first: only so it keeps
+// them in registers throughout.
 template <size_t kWays, class Reduction, class... T>
 HWY_INLINE auto reduce(const Reduction& reduction, size_t n, const T*... src) {
   using D = decltype(reduction.d);
   constexpr size_t kLanes = MaxLanes(D());
+  constexpr std::make_index_sequence<kWays> kAll;
   using Sum = decltype(reduction.zero());
   Sum sums[kWays];
-  for (size_t k = 0; k < kWays; ++k) sums[k] = reduction.zero();
+  clearSums(kAll, reduction, sums);
   size_t i = 0;
   for (; i + kWays * kLanes <= n; i += kWays * kLanes) {
-    VEKS_UNROLL_WAYS
-    for (size_t k = 0; k < kWays; ++k) {
-      reduction.add(sums[k], loadElements(D(), src + i + k * kLanes)...);
-    }
+    addVectors(kAll, reduction, sums, i, src...);
   }
-  // What is left goes to the sums in turn, at most kWays vectors, the last one with fewer elements.
-  const auto addRest = [&](auto... last) HWY_ATTR {
-    VEKS_UNROLL_WAYS
-    for (size_t k = 0; k < kWays; ++k) {
-      if (i + kLanes > n) {
-        if (i < n) reduction.add(sums[k], last...);
-        break;
-      }
-      reduction.add(sums[k], loadElements(D(), src + i)...);
-      i += kLanes;
-    }
-  };
-  if (i < n) addRest(loadElements(D(), src + (n - n % kLanes), n % kLanes)...);
-  for (size_t width = kWays / 2; width > 0; width /= 2) {
-    VEKS_UNROLL_WAYS
-    for (size_t k = 0; k < width; ++k) reduction.merge(sums[k], sums[k + width]);
+  if (i < n) {
+    const auto addTail = [&](auto... last) HWY_ATTR {
+      const auto addLast = [&](Sum& sum) HWY_ATTR { reduction.add(sum, last...); };
+      addRest<0, kWays / 2>(reduction, sums, i, n, addLast, src...);
+    };
+    addTail(loadElements(D(), src + (n - n % kLanes), n % kLanes)...);
+  }
+  if constexpr (kWays > 1) {
+    mergeSums(std::make_index_sequence<kWays / 2>(), reduction, sums);
   }
   return sums[0];
 }

@@ -20,6 +20,15 @@
 #include "core/reduce-inl.h"
 #include "core/targets.h"
 
+// Accumulators belong into registers. EMU128 has none: copies of its loops over lanes would only
+// take time to compile.
+#undef VEKS_UNROLL_WAYS
+#if HWY_TARGET == HWY_EMU128
+#define VEKS_UNROLL_WAYS _Pragma("GCC unroll 1")
+#else
+#define VEKS_UNROLL_WAYS _Pragma("GCC unroll 32")
+#endif
+
 HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {

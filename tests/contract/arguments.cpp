@@ -37,7 +37,7 @@ std::vector<Replacement> badLengths(const Descriptor& function) {
   std::vector<Replacement> all(1);
   for (size_t i = 0; i < function.count; ++i) {
     if (function.parameters[i].role != Role::kLength) continue;
-    for (const int len : {0, -1, INT_MIN}) {
+    for (const int len : {function.leastLength - 1, 0, -1, INT_MIN}) {
       all.push_back({vekErrSize, {{i, valueOf(len)}}, ", len " + std::to_string(len)});
     }
   }

@@ -119,6 +119,7 @@ struct Descriptor {
   const Descriptor* outOfPlace;  // what an in-place function equals
   bool sameOnTargets;            // results equal to the last bit
   CheckOrder order;
+  int leastLength;
   size_t count;
   Parameter parameters[kMaxParameters];
 };

@@ -3,6 +3,7 @@
 from rules import (
     INT_MAX,
     INT_MIN,
+    LeastLength,
     LengthFirst,
     MayBeNull,
     NoPartner,
@@ -10,6 +11,7 @@ from rules import (
     ScalarsFirst,
     SourceAtStart,
     Span,
+    TargetsDiffer,
     Values,
 )
 
@@ -177,5 +179,20 @@ EXCEPTIONS = (
         valid=(0, 4),
         bad={"vekErrBadArg": (1, 2, 3, 5, -1, INT_MIN)},
         reason="one of two comparisons",
+    ),
+    LeastLength(
+        r"veksStdDev_\w+",
+        least=2,
+        reason="one element has no deviation",
+    ),
+    TargetsDiffer(
+        r"veks(Sum|Mean)_(32fc|64fc?|32f)|veksStdDev_(32|64)f|veksDotProd_\d+f\w*",
+        reason="partial sums for each lane of a vector; accurate sums of 32f are the same",
+    ),
+    Values(
+        r"veks(Sum|Mean|StdDev)_32f",
+        parameters=r"hint",
+        valid=(0, 1, 2, INT_MIN),
+        reason="1 is the fast kernel, every other value the accurate one",
     ),
 )

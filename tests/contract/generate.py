@@ -12,6 +12,7 @@ from pathlib import Path
 
 from declarations import DeclarationError, parse_files
 from rules import (
+    LeastLength,
     LengthFirst,
     MayBeNull,
     NoPartner,
@@ -137,6 +138,11 @@ def check_order(swept, book):
     return "CheckOrder::kPointersFirst"
 
 
+def least_length(swept, book):
+    rule = book.find(LeastLength, swept.function)
+    return rule.least if rule else 1
+
+
 def descriptor_text(swept, table, book):
     partner = partner_index(swept, table, book)
     fields = [
@@ -145,6 +151,7 @@ def descriptor_text(swept, table, book):
         "nullptr" if partner is None else f"&kFunctions[{partner}]",
         "false" if book.find(TargetsDiffer, swept.function) else "true",
         check_order(swept, book),
+        str(least_length(swept, book)),
         str(len(swept.roles)),
     ]
     parameters = [parameter_text(swept, position, book) for position in range(len(swept.roles))]

@@ -47,6 +47,7 @@ void checkPlacements(const Descriptor& function, Workspace& workspace, Report& r
   std::map<int, Outcome> onFirstTarget;
   test::onEveryTarget([&] {
     for (const int len : test::testLengths()) {
+      if (len < function.leastLength) continue;
       Invocation call(function, len, workspace);
       const std::optional<Outcome> outcome = outcomeOfAll(call, report);
       if (!outcome || !function.sameOnTargets) continue;

@@ -27,6 +27,7 @@ TEST(Planted, EveryFaultIsReportedAndNothingElse) {
       {"veksPlantedSizeStatus_32f", {Kind::kStatus}},
       {"veksPlantedSizeFirst_8u", {Kind::kStatus}},
       {"veksPlantedPointerFirst_8u", {Kind::kStatus}},
+      {"veksPlantedOneOrMore_8u", {Kind::kStatus}},
       {"veksPlantedAnyShift_16u", {Kind::kStatus}},
       {"veksPlantedShiftFirst_16u", {Kind::kStatus}},
       {"veksPlantedShiftAfter_16u", {Kind::kStatus}},

@@ -47,6 +47,13 @@ class ScalarsFirst(Rule):
 
 
 @dataclass(frozen=True, kw_only=True)
+class LeastLength(Rule):
+    """Lengths below `least` are errors, not only those below 1."""
+
+    least: int
+
+
+@dataclass(frozen=True, kw_only=True)
 class ParameterRule(Rule):
     parameters: str
 
@@ -58,6 +65,11 @@ class Span(ParameterRule):
     per_len: int = 0
     fixed: int = 0
     per_two: int = 0
+
+
+@dataclass(frozen=True, kw_only=True)
+class MayBeNull(ParameterRule):
+    """Pointers that a caller may leave out."""
 
 
 @dataclass(frozen=True, kw_only=True)

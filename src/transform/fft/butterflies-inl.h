@@ -10,6 +10,7 @@
 
 #include <utility>
 
+#include "core/parts-inl.h"
 #include "core/targets.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -28,13 +29,6 @@ template <size_t n, class F>
 HWY_INLINE void each(const F& f) {
   eachOf(std::make_index_sequence<n>(), f);
 }
-
-// The real and the imaginary parts of as many values as a vector has lanes.
-template <class V>
-struct Parts {
-  V re;
-  V im;
-};
 
 template <class V>
 HWY_INLINE Parts<V> operator+(const Parts<V>& a, const Parts<V>& b) {

@@ -2,6 +2,7 @@
 
 from rules import (
     INT_MIN,
+    LeastLength,
     LengthFirst,
     MayBeNull,
     NoPartner,
@@ -49,6 +50,11 @@ EXCEPTIONS = (
     LengthFirst(
         r"veksPlantedLengthFirst_8u|veksPlantedPointerFirst_8u",
         reason="the length is checked first; the second does not",
+    ),
+    LeastLength(
+        r"veksPlanted(TwoOrMore|OneOrMore)_8u",
+        least=2,
+        reason="the length must be 2; the second accepts 1",
     ),
     ScalarsFirst(
         r"veksPlantedShift(Before|After)_16u",

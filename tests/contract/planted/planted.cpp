@@ -245,6 +245,10 @@ VekStatus veksPlantedPointerFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len) {
   return checkedCopy(pSrc, pDst, len);
 }
 
+VekStatus veksPlantedOneOrMore_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
+  return sum(pSrc, len, pSum);
+}
+
 VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
   const VekStatus status = checkVectors(len, pSrc, pDst);
   return status != vekStsOk ? status : shift(pSrc, val, pDst, len);
@@ -253,6 +257,10 @@ VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int
 VekStatus veksPlantedShiftFirst_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {
   if (pSrc != nullptr && pDst != nullptr && val < 0) return vekErrShift;
   return veksPlantedAnyShift_16u(pSrc, val, pDst, len);
+}
+
+VekStatus veksPlantedTwoOrMore_8u(const Vek8u* pSrc, int len, Vek32s* pSum) {
+  return sum(pSrc, len < 2 ? 0 : len, pSum);
 }
 
 VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len) {

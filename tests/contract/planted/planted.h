@@ -20,6 +20,7 @@ VEKS_API VekStatus veksPlantedOptionalIndx_16s(const Vek16s* pSrc, int len, Vek1
                                                int* pIndx);
 VEKS_API VekStatus veksPlantedNegate_32s_I(Vek32s* pSrcDst, int len);
 VEKS_API VekStatus veksPlantedLengthFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
+VEKS_API VekStatus veksPlantedTwoOrMore_8u(const Vek8u* pSrc, int len, Vek32s* pSum);
 VEKS_API VekStatus veksPlantedShiftBefore_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedHalf_16s(const Vek16s* pSrc, Vek16s* pDst, int len);
 VEKS_API VekStatus veksPlantedExpandUp_8sc(const Vek8s* pSrc, Vek8sc* pDst, int len);
@@ -43,6 +44,7 @@ VEKS_API VekStatus veksPlantedNullIgnored_64f(const Vek64f* pSrc, Vek64f* pDst, 
 VEKS_API VekStatus veksPlantedSizeStatus_32f(const Vek32f* pSrc, Vek32f* pDst, int len);
 VEKS_API VekStatus veksPlantedSizeFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
 VEKS_API VekStatus veksPlantedPointerFirst_8u(const Vek8u* pSrc, Vek8u* pDst, int len);
+VEKS_API VekStatus veksPlantedOneOrMore_8u(const Vek8u* pSrc, int len, Vek32s* pSum);
 VEKS_API VekStatus veksPlantedAnyShift_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedShiftFirst_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
 VEKS_API VekStatus veksPlantedShiftAfter_16u(const Vek16u* pSrc, int val, Vek16u* pDst, int len);
