@@ -72,17 +72,29 @@ HWY_INLINE auto loadElements(D d, const T* src, size_t count) {
   }
 }
 
-template <class Reduction, class Sum, class... T>
-HWY_INLINE void addVector(const Reduction& reduction, Sum& sum, size_t i, const T*... src) {
-  reduction.add(sum, loadElements(decltype(reduction.d)(), src + i)...);
+// Calls f with 0 .. kCount - 1, constants where there are vector registers: only sums with constant
+// indices stay there throughout. For the baseline, copies would take minutes to compile.
+template <size_t... k, class F>
+HWY_INLINE void callWith(std::index_sequence<k...> /*indices*/, const F& f) {
+  (f(std::integral_constant<size_t, k>()), ...);
+}
+template <size_t kCount, class F>
+HWY_INLINE void eachSum(const F& f) {
+  if constexpr (HWY_TARGET == HWY_EMU128) {
+#pragma GCC unroll 1
+    for (size_t k = 0; k < kCount; ++k) f(k);
+  } else {
+    callWith(std::make_index_sequence<kCount>(), f);
+  }
 }
 
-// A full vector for each of the sums k.
-template <size_t... k, class Reduction, class Sum, class... T>
-HWY_INLINE void addVectors(std::index_sequence<k...> /*sums*/, const Reduction& reduction,
-                           Sum* sums, size_t i, const T*... src) {
-  constexpr size_t kLanes = MaxLanes(decltype(reduction.d)());
-  (addVector(reduction, sums[k], i + k * kLanes, src...), ...);
+// A full vector for each of kCount sums.
+template <size_t kCount, class Reduction, class Sum, class... T>
+HWY_INLINE void addVectors(const Reduction& reduction, Sum* sums, size_t i, const T*... src) {
+  using D = decltype(reduction.d);
+  eachSum<kCount>([&](auto k) HWY_ATTR {
+    reduction.add(sums[k], loadElements(D(), src + i + k * MaxLanes(D()))...);
+  });
 }
 
 // What is left goes to the sums from kFirst on in turn, kCount vectors or none, half of that and so
@@ -91,46 +103,39 @@ template <size_t kFirst, size_t kCount, class Reduction, class Sum, class AddLas
 HWY_INLINE void addRest(const Reduction& reduction, Sum* sums, size_t i, size_t n,
                         const AddLast& addLast, const T*... src) {
   constexpr size_t kLanes = MaxLanes(decltype(reduction.d)());
-  if constexpr (kCount == 0) {
+  if constexpr (HWY_TARGET == HWY_EMU128) {
+    for (; i + kLanes <= n; i += kLanes) addVectors<1>(reduction, sums++, i, src...);
+    if (i < n) addLast(*sums);
+  } else if constexpr (kCount == 0) {
     if (i < n) addLast(sums[kFirst]);
   } else if (i + kCount * kLanes <= n) {
-    addVectors(std::make_index_sequence<kCount>(), reduction, sums + kFirst, i, src...);
+    addVectors<kCount>(reduction, sums + kFirst, i, src...);
     addRest<kFirst + kCount, kCount / 2>(reduction, sums, i + kCount * kLanes, n, addLast, src...);
   } else {
     addRest<kFirst, kCount / 2>(reduction, sums, i, n, addLast, src...);
   }
 }
 
-template <size_t... k, class Reduction, class Sum>
-HWY_INLINE void clearSums(std::index_sequence<k...> /*sums*/, const Reduction& reduction,
-                          Sum* sums) {
-  ((sums[k] = reduction.zero()), ...);
-}
-
 // Merges the second half of the sums into the first and so on.
-template <size_t... k, class Reduction, class Sum>
-HWY_INLINE void mergeSums(std::index_sequence<k...> /*half*/, const Reduction& reduction,
-                          Sum* sums) {
-  (reduction.merge(sums[k], sums[k + sizeof...(k)]), ...);
-  if constexpr (sizeof...(k) > 1) {
-    mergeSums(std::make_index_sequence<sizeof...(k) / 2>(), reduction, sums);
+template <size_t kCount, class Reduction, class Sum>
+HWY_INLINE void mergeSums(const Reduction& reduction, Sum* sums) {
+  if constexpr (kCount > 1) {
+    eachSum<kCount / 2>([&](auto k) HWY_ATTR { reduction.merge(sums[k], sums[k + kCount / 2]); });
+    mergeSums<kCount / 2>(reduction, sums);
   }
 }
 
-// Takes in n elements of the sources, kWays vectors side by side, a power of two. The sums have
-// constant indices, without loops that the compiler would have to unroll first: only so it keeps
-// them in registers throughout.
+// Takes in n elements of the sources, kWays vectors side by side, a power of two.
 template <size_t kWays, class Reduction, class... T>
 HWY_INLINE auto reduce(const Reduction& reduction, size_t n, const T*... src) {
   using D = decltype(reduction.d);
   constexpr size_t kLanes = MaxLanes(D());
-  constexpr std::make_index_sequence<kWays> kAll;
   using Sum = decltype(reduction.zero());
   Sum sums[kWays];
-  clearSums(kAll, reduction, sums);
+  eachSum<kWays>([&](auto k) HWY_ATTR { sums[k] = reduction.zero(); });
   size_t i = 0;
   for (; i + kWays * kLanes <= n; i += kWays * kLanes) {
-    addVectors(kAll, reduction, sums, i, src...);
+    addVectors<kWays>(reduction, sums, i, src...);
   }
   if (i < n) {
     const auto addTail = [&](auto... last) HWY_ATTR {
@@ -139,9 +144,7 @@ HWY_INLINE auto reduce(const Reduction& reduction, size_t n, const T*... src) {
     };
     addTail(loadElements(D(), src + (n - n % kLanes), n % kLanes)...);
   }
-  if constexpr (kWays > 1) {
-    mergeSums(std::make_index_sequence<kWays / 2>(), reduction, sums);
-  }
+  mergeSums<kWays>(reduction, sums);
   return sums[0];
 }
 
