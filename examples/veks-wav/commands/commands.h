@@ -18,6 +18,7 @@ void addLimit(CLI::App& app);
 void addMix(CLI::App& app);
 void addConvert(CLI::App& app);
 void addSpectrum(CLI::App& app);
+void addStats(CLI::App& app);
 
 }  // namespace veks_wav
 
