@@ -38,5 +38,5 @@ expect "$scratch/cpp/consumer_static" libveks.a
 
 echo "== C, add_subdirectory"
 cmake -S "$here/subdirectory" -B "$scratch/subdirectory" -DVEKS_SOURCE_DIR="$here/../.." >/dev/null
-cmake --build "$scratch/subdirectory" --target consumer >/dev/null
+cmake --build "$scratch/subdirectory" --target consumer --parallel >/dev/null
 expect "$scratch/subdirectory/consumer" libveks.so.4

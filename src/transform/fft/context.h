@@ -140,7 +140,7 @@ inline FftPlan<T>* makePlan(int order, T forwardFactor, T inverseFactor, const B
 // Order, normalisation and hint of a context.
 template <class Context>
 inline void setFactors(Context* context, int order, int flag, VekHintAlgorithm hint) {
-  const double n = std::ldexp(1.0, order);
+  const double n = static_cast<double>(uint64_t{1} << order);
   context->order = order;
   context->hint = hint;
   context->forwardScaled = flag == kForwardByN || flag == kBothByRootOfN;
