@@ -107,9 +107,11 @@ HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Sou
   constexpr size_t kRow = 2 * kColumns;
   const FftPlan<T>& plan = *direction.plan;
   const ColumnPasses<T>& passes = plan.columnPasses;
-  const StridedRows<Source> rows = {source, 0, kColumns, kLanes};
-  const WorkRows<T> workRows = {work, kRow, 2 * kLanes};
-  transformColumns(d, rows, workRows, kColumns / kLanes, passes);
+  for (size_t t = 0; t < kColumns; t += kLanes) {
+    const StridedRows<Source> rows = {source, t, kColumns};
+    const WorkRows<T> workRows = {work + 2 * t, kRow};
+    transformColumns(d, rows, workRows, passes);
+  }
   const uint32_t* rowOf = passes.rowOf;
   const T* w = direction.twiddles;
   for (size_t k = 0; k < plan.rows; k += kLanes) {
@@ -168,33 +170,26 @@ HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Sourc
   constexpr size_t kLanes = MaxLanes(D());
   constexpr size_t kRow = 2 * kLanes;
   const FftPlan<T>& plan = *direction.plan;
-  const size_t bandLanes = plan.bands * kLanes;
-  T* const scratch = work + 2 * plan.rows * plan.columns;
-  T* const factors = scratch + kRow * plan.bands * HWY_MAX(plan.rows, plan.columns);
+  T* const band = work + 2 * plan.rows * plan.columns;
+  T* const factors = band + kRow * HWY_MAX(plan.rows, plan.columns);
   const uint32_t* rowOf = plan.columnPasses.rowOf;
-  const WorkRows<T> columnRows = {scratch, kRow, kRow * plan.rows};
-  for (size_t c = 0; c < plan.columns; c += bandLanes) {
-    const StridedRows<Source> rows = {source, c, plan.columns, kLanes};
-    transformColumns(d, rows, columnRows, plan.bands, plan.columnPasses);
-    for (size_t b = 0; b < plan.bands; ++b) {
-      columnFactors(plan, c + b * kLanes, direction.factor, factors + b * 2 * plan.rows);
-    }
+  const WorkRows<T> bandRows = {band, kRow};
+  for (size_t c = 0; c < plan.columns; c += kLanes) {
+    const StridedRows<Source> rows = {source, c, plan.columns};
+    transformColumns(d, rows, bandRows, plan.columnPasses);
+    columnFactors(plan, c, direction.factor, factors);
     const T* w = direction.twiddles;
     for (size_t k = 0; k < plan.rows; k += kLanes) {
       T* const out = work + (k / kLanes * plan.columns + c) * kRow;
-      for (size_t b = 0; b < plan.bands; ++b) {
-        transposeBand<layout, kStreams>(d, columnRows.band(b), rowOf + k, w,
-                                        factors + 2 * (b * plan.rows + k), out + b * kLanes * kRow);
-      }
+      transposeBand<layout, kStreams>(d, bandRows, rowOf + k, w, factors + 2 * k, out);
       w += kLanes * kRow;
     }
   }
   if constexpr (kStreams) hwy::FlushStream();
-  const WorkRows<T> rowRows = {scratch, kRow, kRow * plan.columns};
-  for (size_t k = 0; k < plan.rows; k += bandLanes) {
-    const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow, kRow * plan.columns};
-    const StridedRows<Destination> out = {destination, k, plan.rows, kLanes};
-    transformColumnsTo(d, rows, rowRows, out, plan.bands, plan.rowPasses);
+  for (size_t k = 0; k < plan.rows; k += kLanes) {
+    const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow};
+    const StridedRows<Destination> out = {destination, k, plan.rows};
+    transformColumnsTo(d, rows, bandRows, out, plan.rowPasses);
   }
   if constexpr (kStreams) hwy::FlushStream();
 }

@@ -15,15 +15,10 @@ namespace veks {
 namespace HWY_NAMESPACE {
 
 // Rows in work memory: the real parts, then the imaginary ones, `stride` values from row to row.
-// Bands are matrices side by side, whose rows are read and written in turn.
 template <class T>
 struct WorkRows {
   T* first;
   size_t stride;
-  size_t bandStride;
-  HWY_INLINE WorkRows band(size_t b) const {
-    return {first + b * bandStride, stride, bandStride};
-  }
   template <class D>
   HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t row) const {
     const T* const at = first + row * stride;
@@ -43,10 +38,6 @@ struct StridedRows {
   const Values& values;
   size_t first;
   size_t stride;
-  size_t bandStride;
-  HWY_INLINE StridedRows band(size_t b) const {
-    return {values, first + b * bandStride, stride, bandStride};
-  }
   template <class D>
   HWY_INLINE auto load(D d, size_t row) const {
     return values.load(d, first + row * stride);
@@ -82,21 +73,19 @@ HWY_INLINE void transformRows(D d, const Source& source, size_t in, size_t step,
 // The pass with factors of radix R over n rows from `base` on.
 template <size_t R, class D, class Source, class Destination, class T>
 HWY_NOINLINE void pass(D d, const Source source, const Destination destination, size_t base,
-                       size_t n, size_t bands, const T* w) {
+                       size_t n, const T* w) {
   const size_t step = n / R;
   for (size_t p = base; p < base + step; ++p) {
-    for (size_t b = 0; b < bands; ++b) {
-      transformRows<R, true>(d, source.band(b), p, step, destination.band(b), p, step, w);
-    }
+    transformRows<R, true>(d, source, p, step, destination, p, step, w);
     w += 2 * (R - 1);
   }
 }
 
 template <class D, class Source, class Destination, class T>
 HWY_INLINE void passOf(size_t radix, D d, const Source& source, const Destination& destination,
-                       size_t base, size_t n, size_t bands, const T* w) {
-  if (radix == 16) return pass<16>(d, source, destination, base, n, bands, w);
-  pass<8>(d, source, destination, base, n, bands, w);
+                       size_t base, size_t n, const T* w) {
+  if (radix == 16) return pass<16>(d, source, destination, base, n, w);
+  pass<8>(d, source, destination, base, n, w);
 }
 
 // The last pass over the groups of R rows from `base` on, in place or into the rows of a
@@ -111,15 +100,12 @@ HWY_NOINLINE void lastPass(D d, const WorkRows<T> work, size_t base, size_t n) {
 
 template <size_t R, class D, class Destination, class T>
 HWY_NOINLINE void lastPassTo(D d, const WorkRows<T> work, const Destination destination,
-                             size_t bands, const ColumnPasses<T>& passes) {
+                             const ColumnPasses<T>& passes) {
   const T* const none = nullptr;
   const size_t groups = passes.length / R;
   for (size_t group = 0; group < groups; ++group) {
-    const size_t out = passes.firstOfGroup[group];
-    for (size_t b = 0; b < bands; ++b) {
-      transformRows<R, false>(d, work.band(b), group * R, 1, destination.band(b), out, groups,
-                              none);
-    }
+    transformRows<R, false>(d, work, group * R, 1, destination, passes.firstOfGroup[group], groups,
+                            none);
   }
 }
 
@@ -131,7 +117,7 @@ HWY_NOINLINE void laterPasses(D d, const WorkRows<T> work, size_t base, size_t n
   for (int level = 1; level + 1 < passes.count; ++level) {
     const size_t radix = passes.radices[level];
     for (size_t i = base; i < base + n; i += part) {
-      passOf(radix, d, work, work, i, part, 1, passes.twiddles[level]);
+      passOf(radix, d, work, work, i, part, passes.twiddles[level]);
     }
     part /= radix;
   }
@@ -144,34 +130,28 @@ HWY_NOINLINE void laterPasses(D d, const WorkRows<T> work, size_t base, size_t n
 
 // The first pass, then the others part by part, so that parts stay in the first cache.
 template <class D, class Source, class T>
-HWY_INLINE void firstPasses(D d, const Source& source, const WorkRows<T>& work, size_t bands,
-                            bool withLast, const ColumnPasses<T>& passes) {
+HWY_INLINE void firstPasses(D d, const Source& source, const WorkRows<T>& work, bool withLast,
+                            const ColumnPasses<T>& passes) {
   const size_t n = passes.length;
   const size_t part = passes.count == 2 ? n : n / passes.radices[0];
-  passOf(passes.radices[0], d, source, work, 0, n, bands, passes.twiddles[0]);
-  if (passes.count == 2 && !withLast) return;
-  for (size_t b = 0; b < bands; ++b) {
-    for (size_t i = 0; i < n; i += part) laterPasses(d, work.band(b), i, part, withLast, passes);
-  }
+  passOf(passes.radices[0], d, source, work, 0, n, passes.twiddles[0]);
+  for (size_t i = 0; i < n; i += part) laterPasses(d, work, i, part, withLast, passes);
 }
 
 // All passes, two or more, from the source to the work rows, in the order of passes.rowOf.
 template <class D, class Source, class T>
-HWY_INLINE void transformColumns(D d, const Source& source, const WorkRows<T>& work, size_t bands,
+HWY_INLINE void transformColumns(D d, const Source& source, const WorkRows<T>& work,
                                  const ColumnPasses<T>& passes) {
-  firstPasses(d, source, work, bands, true, passes);
+  firstPasses(d, source, work, true, passes);
 }
 
 // The same with the last pass, of radix 8 or 16, to the rows of a destination in natural order.
 template <class D, class Source, class Destination, class T>
 HWY_INLINE void transformColumnsTo(D d, const Source& source, const WorkRows<T>& work,
-                                   const Destination& destination, size_t bands,
-                                   const ColumnPasses<T>& passes) {
-  firstPasses(d, source, work, bands, false, passes);
-  if (passes.radices[passes.count - 1] == 16) {
-    return lastPassTo<16>(d, work, destination, bands, passes);
-  }
-  lastPassTo<8>(d, work, destination, bands, passes);
+                                   const Destination& destination, const ColumnPasses<T>& passes) {
+  firstPasses(d, source, work, false, passes);
+  if (passes.radices[passes.count - 1] == 16) return lastPassTo<16>(d, work, destination, passes);
+  lastPassTo<8>(d, work, destination, passes);
 }
 
 }  // namespace HWY_NAMESPACE

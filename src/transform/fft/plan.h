@@ -66,8 +66,7 @@ struct FftPlan {
   size_t rows;
   size_t columns;
   ColumnPasses<T> columnPasses;
-  ColumnPasses<T> rowPasses;  // long transforms only, like what follows
-  size_t bands;               // of `lanes` columns or rows that are worked on together
+  ColumnPasses<T> rowPasses;  // long transforms only
   // Long transforms: exp(-2 pi i j / N) for j < 2^fineBits, and for multiples of 2^fineBits.
   const T* fine;
   const T* coarse;

@@ -7,9 +7,6 @@
 namespace veks {
 namespace {
 
-constexpr size_t kMaxBands = 2;
-constexpr size_t kMaxBandBytes = size_t{256} << 10;
-
 // Radices of passes over 2^log2Length rows, log2Length at most 16: few passes, the largest radices
 // first, and 2 or 4 at the end only.
 int chooseRadices(int log2Length, uint8_t* log2Radices) {
@@ -168,13 +165,9 @@ void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena) {
   if (!isLong) return;
   makePasses(shape.columns, &plan->rowPasses, arena);
   makePowers(n, plan, arena);
-  // Together, bands make long pieces of the memory's rows, but must stay in the second cache.
+  // The matrix, a band of it and the factors of its first column.
   const size_t longer = std::max(shape.rows, shape.columns);
-  const size_t bandElements = 2 * shape.lanes * longer;
-  plan->bands =
-      std::max<size_t>(1, std::min<size_t>(kMaxBands, kMaxBandBytes / (bandElements * sizeof(T))));
-  // The matrix, bands of it and the factors of their first columns.
-  plan->workElements = 2 * n + plan->bands * (bandElements + 2 * shape.rows);
+  plan->workElements = 2 * n + 2 * shape.lanes * longer + 2 * shape.rows;
 }
 
 template void makeTables(const FftShape&, FftPlan<float>*, Arena*);
