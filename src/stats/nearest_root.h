@@ -23,7 +23,7 @@ inline float nearestRoot(uint64_t x) {
   constexpr int kBits = 26;
   const Root exact = rootOf(x, kBits);
   const uint64_t sticky = exact.root | (exact.rest != 0 ? 1 : 0);
-  return static_cast<float>(static_cast<int64_t>(sticky)) / (1 << kBits);
+  return static_cast<float>(static_cast<int64_t>(sticky)) / static_cast<float>(1 << kBits);
 }
 
 }  // namespace veks

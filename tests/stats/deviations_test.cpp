@@ -1,5 +1,6 @@
 // Standard deviations against those of long double.
 #include <cmath>
+#include <numeric>
 
 #include "exact.h"
 #include "support.h"
@@ -22,13 +23,10 @@ long double expectedDeviation(const std::vector<T>& src, size_t n) {
 template <class T, class Call>
 void checkDeviation(const std::vector<T>& src, long double tolerance, const Call& call) {
   std::vector<long double> expected;
-  const std::vector<size_t> lengths = [&] {
-    std::vector<size_t> all;
-    for (size_t n = 2; n <= 200; ++n) all.push_back(n);
-    for (const size_t n : std::initializer_list<size_t>{4095, 4096, 4097, 4111, 40000})
-      all.push_back(n);
-    return all;
-  }();
+  std::vector<size_t> lengths(199);
+  std::iota(lengths.begin(), lengths.end(), size_t{2});
+  lengths.insert(lengths.end(), {4095, 4096, 4097, 4111, 40000});
+  expected.reserve(lengths.size());
   for (size_t n : lengths) expected.push_back(expectedDeviation(src, n));
   onEveryTarget([&] {
     for (size_t i = 0; i < lengths.size(); ++i) {

@@ -10,6 +10,7 @@ namespace {
 template <class S>
 std::vector<ExactParts> terms(const std::vector<S>& src) {
   std::vector<ExactParts> all;
+  all.reserve(src.size());
   for (const S& x : src) all.push_back(exactParts(x));
   return all;
 }

@@ -63,6 +63,7 @@ std::vector<Samples<T>> readChannels(SoundReader& in) {
   const int count = in.channels();
   const int block = framesPerBlock(count);
   std::vector<Samples<T>> channels;
+  channels.reserve(static_cast<size_t>(count));
   for (int i = 0; i < count; ++i) channels.emplace_back(static_cast<int>(in.frames()));
   Samples<T> interleaved(block * count);
   FloatReader<T> reader(in, count, block);

@@ -19,7 +19,9 @@ class Adder {
 
   void add(const double* interleaved, int channels, double* sum) {
     double* const values = spectrum_.data();
-    for (int i = 0; i < frames_; ++i) values[i] = interleaved[i * channels];
+    for (int i = 0; i < frames_; ++i) {
+      values[i] = interleaved[int64_t{i} * channels];
+    }
     transform_.run(values, buffer_.data());
     multiplyByConjugate(values, frames_);
     veks_wav::add(values, sum, frames_);
@@ -57,11 +59,11 @@ void Spectrum::add(SoundReader& sound, int order) {
       sound.read(block.data() + half, frames_ / 2);
     }
     for (int channel = 0; channel < channels_; ++channel) {
-      adder.add(block.data() + channel, channels_, sums.data() + channel * frames_);
+      adder.add(block.data() + channel, channels_, sums.data() + int64_t{channel} * frames_);
     }
   }
   for (int channel = 0; channel < channels_; ++channel) {
-    const double* const packed = sums.data() + channel * frames_;
+    const double* const packed = sums.data() + int64_t{channel} * frames_;
     std::vector<double>& powers = powers_[static_cast<size_t>(channel)];
     powers.front() = packed[0];
     powers.back() = packed[frames_ - 1];
