@@ -10,6 +10,8 @@
 // carry the fix for the vectoriser fault behind that list. No kernel needs AES or CLMUL.
 #define HWY_BROKEN_EMU128 0
 #define HWY_DISABLE_PCLMUL_AES 1
+// Its checks of debug builds end in a function of the library of Highway, which is not linked.
+#define HWY_IS_DEBUG_BUILD 0
 #ifdef VEKS_DISABLE_AVX512
 #define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3 | HWY_AVX3_DL)
 #else
