@@ -7,7 +7,6 @@
 
 #include <hwy/highway.h>
 
-HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
@@ -20,6 +19,5 @@ struct Parts {
 
 }  // namespace HWY_NAMESPACE
 }  // namespace veks
-HWY_AFTER_NAMESPACE();
 
 #endif
