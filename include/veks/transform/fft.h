@@ -96,7 +96,7 @@ VEKS_API VekStatus veksFFTFree_R_64f(VeksFFTContext_R_64f* pCtx);
 /**
  * @name FFTGetBufSize
  * The size of the work buffer of a context's transforms in bytes, 0 if they need none. A buffer may
- * have any alignment; from a multiple of 64 on, transforms are fastest.
+ * have any alignment.
  *
  * @param pCtx the context
  * @param pSize where to store the size
