@@ -13,10 +13,22 @@
 // Its checks of debug builds end in a function of the library of Highway, which is not linked.
 #define HWY_IS_DEBUG_BUILD 0
 #ifdef VEKS_DISABLE_AVX512
-#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3 | HWY_AVX3_DL)
+#define VEKS_WITHOUT_AVX512 HWY_AVX3
 #else
-#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3_DL)
+#define VEKS_WITHOUT_AVX512 0
 #endif
+#ifdef VEKS_DISABLE_AVX2
+#define VEKS_WITHOUT_AVX2 HWY_AVX2
+#else
+#define VEKS_WITHOUT_AVX2 0
+#endif
+#ifdef VEKS_DISABLE_SSE4
+#define VEKS_WITHOUT_SSE4 HWY_SSE4
+#else
+#define VEKS_WITHOUT_SSE4 0
+#endif
+#define HWY_DISABLED_TARGETS \
+  (HWY_SSSE3 | HWY_AVX3_DL | VEKS_WITHOUT_AVX512 | VEKS_WITHOUT_AVX2 | VEKS_WITHOUT_SSE4)
 #include <hwy/detect_targets.h>
 
 #include <cstddef>

@@ -17,6 +17,7 @@ IMPORTS = {
     r"mem(cpy|move|set|cmp)|bcmp": "made by compilers from loops and copies",
     r"sysconf": "the size of the last cache, asked for once when the library is loaded",
     r"sin|cos|sincos": "tables of transforms",
+    r"omp_get_\w+|GOMP_parallel|__kmpc_\w+": "threads of filters",
     r"__cxa_finalize|__gmon_start__|_ITM_\w+": "start-up code of every shared library",
     r"__[at]san_\w+|__ubsan_\w+|_ZTVN10__cxxabiv1\w+": "builds with sanitizers",
 }

@@ -1,0 +1,11 @@
+/**
+ * @file
+ * Filters.
+ */
+#ifndef VEKS_FILTER_H
+#define VEKS_FILTER_H
+
+#include "veks/filter/fir.h"
+#include "veks/filter/fir_direct.h"
+
+#endif

@@ -1,0 +1,251 @@
+// Sums of products of a filter's taps with windows of its input, in floating point.
+#if defined(VEKS_FILTER_FIR_PRODUCTS_INL_H) == defined(HWY_TARGET_TOGGLE)
+#ifdef VEKS_FILTER_FIR_PRODUCTS_INL_H
+#undef VEKS_FILTER_FIR_PRODUCTS_INL_H
+#else
+#define VEKS_FILTER_FIR_PRODUCTS_INL_H
+#endif
+
+#include <hwy/highway.h>
+
+#include "veks/status.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace veks {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Keeps a loaded vector in its register. The compiler would rather load it again for each of its
+// multiply-adds, but loads that cross a cache line are what limits them.
+template <class V>
+HWY_INLINE void Pin(V& v) {
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_EMU128
+  asm("" : "+v"(v.raw));
+#else
+  (void)v;
+#endif
+}
+
+// One tap in all lanes, for real filters one vector, for complex ones two. Products with the latter
+// are added up apart: those with the real part of the tap and those with its imaginary part.
+template <class V, int kParts>
+struct Tap {
+  V part[kParts];
+};
+
+// kVectors vectors of results. The accumulators of one result are kSets, added up at the end, where
+// there are so few vectors that sums would wait for each other.
+template <class D, int kParts, int kVectors>
+struct FirResults {
+  using V = hn::Vec<D>;
+  using T = hn::TFromD<D>;
+  static constexpr size_t kPoints = hn::MaxLanes(D()) / kParts;
+  static constexpr int kSets = kVectors * kParts >= 8 ? 1 : kVectors * kParts >= 4 ? 2 : 4;
+
+  V sums[kSets][kVectors][kParts];
+
+  HWY_INLINE void Clear(D d) {
+    for (int s = 0; s < kSets; ++s) {
+      for (int v = 0; v < kVectors; ++v) {
+        for (int p = 0; p < kParts; ++p) sums[s][v][p] = hn::Zero(d);
+      }
+    }
+  }
+
+  // Adds the products of kTaps taps, each a vector of points after the one before. A loaded vector
+  // meets all of them.
+  template <int kTaps>
+  HWY_INLINE void Add(D d, const T* HWY_RESTRICT taps, const T* HWY_RESTRICT window) {
+    constexpr size_t kLanes = kPoints * kParts;
+    Tap<V, kParts> tap[kTaps];
+    for (int m = 0; m < kTaps; ++m) {
+      for (int p = 0; p < kParts; ++p) tap[m].part[p] = hn::Set(d, taps[m * kLanes + p]);
+    }
+    HWY_UNROLL(32)
+    for (int q = 0; q < kVectors + kTaps - 1; ++q) {
+      V x = hn::LoadU(d, window + q * kLanes);
+      Pin(x);
+      HWY_UNROLL(8)
+      for (int m = 0; m < kTaps; ++m) {
+        const int v = q - m;
+        if (v < 0 || v >= kVectors) continue;
+        for (int p = 0; p < kParts; ++p) {
+          V& sum = sums[m % kSets][v][p];
+          sum = hn::MulAdd(x, tap[m].part[p], sum);
+        }
+      }
+    }
+  }
+
+  HWY_INLINE V Result(int v) const {
+    V total[kParts];
+    for (int p = 0; p < kParts; ++p) {
+      total[p] = sums[0][v][p];
+      for (int s = 1; s < kSets; ++s) total[p] = hn::Add(total[p], sums[s][v][p]);
+    }
+    if constexpr (kParts == 1) {
+      return total[0];
+    } else {
+      const V crossed = hn::Reverse2(D(), total[1]);
+      return hn::OddEven(hn::Add(total[0], crossed), hn::Sub(total[0], crossed));
+    }
+  }
+};
+
+// The most taps to a loaded vector that there are registers for.
+template <int kParts>
+constexpr int kTapsToLoad = (HWY_TARGET <= HWY_AVX3 ? 8 : 4) / kParts;
+
+// Adds the products of `count` times kTaps taps.
+template <int kTaps, int kParts, class Results, class D, class T>
+HWY_INLINE void AddTaps(D d, Results& results, const T* HWY_RESTRICT taps,
+                        const T* HWY_RESTRICT window, size_t count) {
+  for (size_t k = 0; k < count * kParts; k += kParts) {
+    results.template Add<kTaps>(d, taps + k, window + k);
+  }
+}
+
+// Adds the products of the taps from k on, kTaps vectors of them at a time and then those that are
+// left.
+template <int kTaps, int kParts, class Results, class D, class T>
+HWY_INLINE void AddProducts(D d, Results& results, const T* HWY_RESTRICT taps, size_t tapsLen,
+                            const T* HWY_RESTRICT window, size_t k) {
+  constexpr size_t kPoints = Results::kPoints;
+  if constexpr (kTaps > 2) {
+    for (; k + kTaps * kPoints <= tapsLen; k += kTaps * kPoints) {
+      AddTaps<kTaps, kParts>(d, results, taps + k * kParts, window + k * kParts, kPoints);
+    }
+    AddProducts<kTaps / 2, kParts>(d, results, taps, tapsLen, window, k);
+  } else {
+    // Pairs of taps as long as there are two.
+    while (k < tapsLen) {
+      const size_t left = tapsLen - k;
+      const size_t pairs = left > kPoints ? HWY_MIN(left - kPoints, kPoints) : 0;
+      AddTaps<2, kParts>(d, results, taps + k * kParts, window + k * kParts, pairs);
+      if (pairs == kPoints) {
+        k += 2 * kPoints;
+        continue;
+      }
+      k += pairs;
+      AddTaps<1, kParts>(d, results, taps + k * kParts, window + k * kParts,
+                         HWY_MIN(left, kPoints) - pairs);
+      break;
+    }
+  }
+}
+
+// dst[i] = sum of taps[k] window[i + k] over k, for kVectors vectors of results.
+template <int kParts, int kVectors, class D, class T>
+HWY_INLINE void FilterVectors(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
+                              const T* HWY_RESTRICT window, T* HWY_RESTRICT dst) {
+  using Results = FirResults<D, kParts, kVectors>;
+  constexpr size_t kPoints = Results::kPoints;
+  Results results;
+  results.Clear(d);
+  AddProducts<kTapsToLoad<kParts>, kParts>(d, results, taps, tapsLen, window, 0);
+  for (int v = 0; v < kVectors; ++v) {
+    hn::StoreU(results.Result(v), d, dst + static_cast<size_t>(v) * kPoints * kParts);
+  }
+}
+
+template <int kParts, int kVectors, class D, class T>
+HWY_INLINE size_t FilterWhole(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
+                              const T* HWY_RESTRICT window, T* HWY_RESTRICT dst, size_t i,
+                              size_t n) {
+  constexpr size_t kPoints = kVectors * hn::MaxLanes(D()) / kParts;
+  for (; i + kPoints <= n; i += kPoints) {
+    FilterVectors<kParts, kVectors>(d, taps, tapsLen, window + i * kParts, dst + i * kParts);
+  }
+  return i;
+}
+
+// Fewer results than a vector has, or with a full vector the last ones.
+template <int kParts, class D, class T>
+HWY_INLINE void FilterLast(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
+                           const T* HWY_RESTRICT window, T* HWY_RESTRICT dst, size_t i, size_t n) {
+  constexpr size_t kLanes = hn::MaxLanes(D());
+  constexpr size_t kPoints = kLanes / kParts;
+  if (n >= kPoints) {
+    if (i + kPoints <= n) i = FilterWhole<kParts, 1>(d, taps, tapsLen, window, dst, i, n);
+    if (i == n) return;
+    const size_t last = (n - kPoints) * kParts;
+    FilterVectors<kParts, 1>(d, taps, tapsLen, window + last, dst + last);
+  } else if constexpr (kPoints > 1) {
+    FilterLast<kParts>(hn::CappedTag<T, kLanes / 2>(), taps, tapsLen, window, dst, i, n);
+  }
+}
+
+// dst[i] = sum of taps[k] window[i + k] over k for n results: the taps are those of the filter in
+// reverse, the window has n + tapsLen - 1 points. kParts is 2 for complex values.
+template <class T, int kParts>
+VekStatus FirProducts(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RESTRICT window,
+                      T* HWY_RESTRICT dst, size_t n) {
+  const hn::ScalableTag<T> d;
+  constexpr int kMost = (HWY_TARGET <= HWY_AVX3 ? 16 : 8) / kParts;
+  size_t i = FilterWhole<kParts, kMost>(d, taps, tapsLen, window, dst, 0, n);
+  i = FilterWhole<kParts, kMost / 2>(d, taps, tapsLen, window, dst, i, n);
+  i = FilterWhole<kParts, kMost / 4>(d, taps, tapsLen, window, dst, i, n);
+  FilterLast<kParts>(d, taps, tapsLen, window, dst, i, n);
+  return vekStsOk;
+}
+
+// The same for one result, with as many sums as the latency of a multiply-add asks for.
+template <class T, int kParts>
+VekStatus FirProduct(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RESTRICT window,
+                     T* HWY_RESTRICT dst) {
+  const hn::ScalableTag<T> d;
+  constexpr size_t kLanes = hn::MaxLanes(d);
+  constexpr size_t kSums = 4;
+  using V = hn::Vec<decltype(d)>;
+  const size_t n = tapsLen * kParts;
+  // Of complex values, the products of like parts and of unlike parts.
+  V sums[kSums][kParts];
+  for (auto& sum : sums) {
+    for (V& part : sum) part = hn::Zero(d);
+  }
+  const auto add = [&](V(&sum)[kParts], V tap, V x) HWY_ATTR {
+    sum[0] = hn::MulAdd(tap, x, sum[0]);
+    if constexpr (kParts == 2) sum[1] = hn::MulAdd(tap, hn::Reverse2(d, x), sum[1]);
+  };
+  size_t i = 0;
+  for (; i + kSums * kLanes <= n; i += kSums * kLanes) {
+    for (size_t s = 0; s < kSums; ++s) {
+      add(sums[s], hn::LoadU(d, taps + i + s * kLanes), hn::LoadU(d, window + i + s * kLanes));
+    }
+  }
+  for (size_t s = 0; i + kLanes <= n; i += kLanes, ++s) {
+    add(sums[s], hn::LoadU(d, taps + i), hn::LoadU(d, window + i));
+  }
+  T rest[2] = {};
+#if HWY_TARGET <= HWY_AVX3
+  if (i < n) {
+    const auto mask = hn::FirstN(d, n - i);
+    add(sums[kSums - 1], hn::MaskedLoad(mask, d, taps + i), hn::MaskedLoad(mask, d, window + i));
+  }
+#else
+  for (; i < n; i += kParts) {
+    rest[0] += taps[i] * window[i];
+    if constexpr (kParts == 2) {
+      rest[0] -= taps[i + 1] * window[i + 1];
+      rest[1] += taps[i] * window[i + 1] + taps[i + 1] * window[i];
+    }
+  }
+#endif
+  for (size_t s = 1; s < kSums; ++s) {
+    for (int p = 0; p < kParts; ++p) sums[0][p] = hn::Add(sums[0][p], sums[s][p]);
+  }
+  if constexpr (kParts == 2) {
+    const V real = hn::OddEven(hn::Neg(sums[0][0]), sums[0][0]);
+    dst[0] = hn::GetLane(hn::SumOfLanes(d, real)) + rest[0];
+    dst[1] = hn::GetLane(hn::SumOfLanes(d, sums[0][1])) + rest[1];
+  } else {
+    dst[0] = hn::GetLane(hn::SumOfLanes(d, sums[0][0])) + rest[0];
+  }
+  return vekStsOk;
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace veks
+HWY_AFTER_NAMESPACE();
+
+#endif

@@ -1,0 +1,133 @@
+// The path of a filter through the transforms of its type.
+#ifndef VEKS_FILTER_FIR_TRANSFORM_H
+#define VEKS_FILTER_FIR_TRANSFORM_H
+
+#include <algorithm>
+
+#include "filter/fir/layout.h"
+#include "filter/fir/team.h"
+#include "veks/transform/fft.h"
+#include "veks/transform/packed.h"
+#include "veks/vector/arithmetic/products.h"
+
+namespace veks {
+
+// What the transforms of a type are called, and how many taps make them worth while.
+template <class T>
+struct FirFft;
+
+template <>
+struct FirFft<Vek32f> {
+  using Context = VeksFFTContext_R_32f;
+  static constexpr int kFromTaps = 64;
+  static constexpr auto initAlloc = veksFFTInitAlloc_R_32f;
+  static constexpr auto getBufSize = veksFFTGetBufSize_R_32f;
+  static constexpr auto release = veksFFTFree_R_32f;
+  static constexpr auto forward = veksFFTFwd_RToPerm_32f;
+  static constexpr auto inverse = veksFFTInv_PermToR_32f;
+  static constexpr auto multiply = veksMulPerm_32f_I;
+};
+
+template <>
+struct FirFft<Vek64f> {
+  using Context = VeksFFTContext_R_64f;
+  static constexpr int kFromTaps = 32;
+  static constexpr auto initAlloc = veksFFTInitAlloc_R_64f;
+  static constexpr auto getBufSize = veksFFTGetBufSize_R_64f;
+  static constexpr auto release = veksFFTFree_R_64f;
+  static constexpr auto forward = veksFFTFwd_RToPerm_64f;
+  static constexpr auto inverse = veksFFTInv_PermToR_64f;
+  static constexpr auto multiply = veksMulPerm_64f_I;
+};
+
+template <>
+struct FirFft<Vek32fc> {
+  using Context = VeksFFTContext_C_32fc;
+  static constexpr int kFromTaps = 16;
+  static constexpr auto initAlloc = veksFFTInitAlloc_C_32fc;
+  static constexpr auto getBufSize = veksFFTGetBufSize_C_32fc;
+  static constexpr auto release = veksFFTFree_C_32fc;
+  static constexpr auto forward = veksFFTFwd_CToC_32fc;
+  static constexpr auto inverse = veksFFTInv_CToC_32fc;
+  static constexpr auto multiply = veksMul_32fc_I;
+};
+
+template <>
+struct FirFft<Vek64fc> {
+  using Context = VeksFFTContext_C_64fc;
+  static constexpr int kFromTaps = 16;
+  static constexpr auto initAlloc = veksFFTInitAlloc_C_64fc;
+  static constexpr auto getBufSize = veksFFTGetBufSize_C_64fc;
+  static constexpr auto release = veksFFTFree_C_64fc;
+  static constexpr auto forward = veksFFTFwd_CToC_64fc;
+  static constexpr auto inverse = veksFFTInv_CToC_64fc;
+  static constexpr auto multiply = veksMul_64fc_I;
+};
+
+// Nothing, or what a filter with so many taps needs: room for as many threads as a team may have.
+template <class T>
+struct FirTransform {
+  using Fft = FirFft<T>;
+
+  typename Fft::Context* context;  // null for nothing
+  int32_t length;
+  int32_t workSize;
+  int32_t threads;
+  T* spectrum;  // of the taps
+  T* frames;
+  Vek8u* work;
+  VekStatus* statuses;
+
+  VekStatus make(int tapsLen) {
+    if (tapsLen < Fft::kFromTaps) return vekStsOk;
+    int k = 2;
+    while ((int64_t{1} << k) <= tapsLen) ++k;
+    constexpr int kInverseByN = 2;
+    const VekStatus status = Fft::initAlloc(&context, k + 1, kInverseByN, vekAlgHintNone);
+    if (status != vekStsOk) return status;
+    length = int32_t{1} << (k + 1);
+    threads = largestTeam();
+    return Fft::getBufSize(context, &workSize);
+  }
+
+  void release() {
+    if (context != nullptr) Fft::release(context);
+    context = nullptr;
+  }
+
+  void takePieces(Layout* layout) {
+    if (context == nullptr) return;
+    const uint64_t team = static_cast<uint64_t>(threads);
+    spectrum = layout->take<T>(static_cast<uint64_t>(length));
+    frames = layout->take<T>(static_cast<uint64_t>(length) * team);
+    work = layout->take<Vek8u>(workStride() * team);
+    statuses = layout->take<VekStatus>(team);
+  }
+
+  T* frame(int thread) const {
+    return frames + static_cast<size_t>(length) * static_cast<size_t>(thread);
+  }
+  Vek8u* workOf(int thread) const {
+    return workSize == 0 ? nullptr : work + workStride() * static_cast<size_t>(thread);
+  }
+
+  // After an error the filter does without.
+  VekStatus setTaps(const T* taps, size_t tapsLen) {
+    if (context == nullptr) return vekStsOk;
+    std::copy(taps, taps + tapsLen, spectrum);
+    std::fill(spectrum + tapsLen, spectrum + length, T{});
+    const VekStatus status = Fft::forward(spectrum, spectrum, context, workOf(0));
+    if (status != vekStsOk) release();
+    return status;
+  }
+
+ private:
+  // Threads do not share cache lines.
+  size_t workStride() const {
+    return (static_cast<size_t>(workSize) + 63) / 64 * 64;
+  }
+};
+
+}  // namespace veks
+
+#endif
