@@ -10,6 +10,7 @@
 #define VEKS_H
 
 #include "veks/core/services.h"
+#include "veks/gen.h"
 #include "veks/stats.h"
 #include "veks/status.h"
 #include "veks/transform.h"
