@@ -27,6 +27,7 @@ Sizes sizesOfSuite = Sizes::kBytes;
 
 std::vector<Size> sizes() {
   if (sizesOfSuite == Sizes::kBytes) return {std::begin(kBytes), std::end(kBytes)};
+  if (sizesOfSuite == Sizes::kFrame) return {{"4Ki", 4 << 10, false}};
   return {std::begin(kElements), std::end(kElements)};
 }
 

@@ -11,6 +11,7 @@
 
 #include "veks/core/services.h"
 #include "veks/filter.h"
+#include "veks/gen.h"
 #include "veks/stats.h"
 #include "veks/status.h"
 #include "veks/transform.h"

@@ -32,6 +32,21 @@ inline VekStatus mapOne(Kernel kernel, const S* src, T* dst, int len, P... param
   return status != vekStsOk ? status : kernel(src, dst, static_cast<size_t>(len), parameters...);
 }
 
+// The same for vectors of at least so many elements.
+template <class Kernel, class S, class T, class... P>
+inline VekStatus mapAtLeast(Kernel kernel, int least, const S* src, T* dst, int len,
+                            P... parameters) {
+  const VekStatus status = checkVectors(len, src, dst);
+  if (status != vekStsOk) return status;
+  return len < least ? vekErrSize : kernel(src, dst, static_cast<size_t>(len), parameters...);
+}
+
+// The same, but the length is checked first.
+template <class Kernel, class S, class T>
+inline VekStatus mapAtLeastLengthFirst(Kernel kernel, int least, const S* src, T* dst, int len) {
+  return len < least ? vekErrSize : mapOne(kernel, src, dst, len);
+}
+
 // kernel(srcDst, n)
 template <class Kernel, class T>
 inline VekStatus mapInPlace(Kernel kernel, T* srcDst, int len) {

@@ -199,4 +199,52 @@ EXCEPTIONS = (
         valid=(0, 1, 2, INT_MIN),
         reason="1 is the fast kernel, every other value the accurate one",
     ),
+    LeastLength(
+        r"veksWin(Bartlett|Hann|Hamming|Blackman(Std|Q15)?)_\w+",
+        least=3,
+        reason="two ends and a middle",
+    ),
+    LeastLength(
+        r"veksWinBlackmanOpt_\w+",
+        least=4,
+        reason="its alpha is infinite for 3",
+    ),
+    LengthFirst(
+        r"veksWinBlackmanOpt_\w+",
+        reason="so documented",
+    ),
+    NoPartner(
+        r"veksWinBlackmanQ15_16s_ISfs",
+        reason="the only window with a scale factor",
+    ),
+    TargetsDiffer(
+        r"veksWin\w+",
+        reason="fused operations where there are any",
+    ),
+    Values(
+        r"veksWinBlackman_\w+",
+        parameters=r"alpha",
+        valid=(-0.16, 0, -0.25, -0.3, 0.7, 30),
+        reason="any value is valid",
+    ),
+    Values(
+        r"veksWinBlackmanQ15_\w+",
+        parameters=r"alphaQ15",
+        valid=(-5243, 0, -9000, INT_MAX, INT_MIN),
+        reason="any value is valid",
+    ),
+    Values(
+        r"veksWinKaiser_\w+",
+        parameters=r"alpha",
+        valid=(0.01, 0, -0.018),
+        bad={"vekErrKaiserHuge": (89, -1e9)},
+        reason="times half of the longest length below 38; of the shortest beyond 308",
+    ),
+    Values(
+        r"veksWinKaiserQ15_\w+",
+        parameters=r"alphaQ15",
+        valid=(300, 0, -4000),
+        bad={"vekErrKaiserHuge": (INT_MAX, INT_MIN)},
+        reason="times half of the longest length below 308 * 32768",
+    ),
 )

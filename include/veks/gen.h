@@ -1,0 +1,10 @@
+/**
+ * @file
+ * Signal generation and windows.
+ */
+#ifndef VEKS_GEN_H
+#define VEKS_GEN_H
+
+#include "veks/gen/windows.h"
+
+#endif
