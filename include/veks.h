@@ -10,6 +10,8 @@
 #define VEKS_H
 
 #include "veks/core/services.h"
+#include "veks/filter.h"
+#include "veks/gen.h"
 #include "veks/stats.h"
 #include "veks/status.h"
 #include "veks/transform.h"
