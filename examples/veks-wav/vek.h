@@ -70,6 +70,15 @@ inline void shiftLeft(Vek32s* samples, int len, int bits) {
   check(veksLShiftC_32s_I(bits, samples, len));
 }
 
+// Blocks of waves that start at the phase, which is moved to the next block.
+inline void makeTone(Vek32f* samples, int len, Vek32f magnitude, Vek32f frequency, Vek32f& phase) {
+  check(veksTone_Direct_32f(samples, len, magnitude, frequency, &phase, vekAlgHintAccurate));
+}
+inline void makeTriangle(Vek32f* samples, int len, Vek32f magnitude, Vek32f frequency,
+                         Vek32f& phase) {
+  check(veksTriangle_Direct_32f(samples, len, magnitude, frequency, 0, &phase));
+}
+
 // values[k] * conj(values[k]) of a spectrum in the format Pack: its squares, and zeros as imaginary
 // parts.
 inline void multiplyByConjugate(Vek64f* values, int len) {

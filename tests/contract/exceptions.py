@@ -28,6 +28,14 @@ EXCEPTIONS = (
         r"veksFFT(Fwd|Inv)_(CToC|RTo(Pack|Perm|CCS)|(Pack|Perm|CCS)ToR)_\w+",
         reason="a context has the length; see tests/transform/fft_calls_test.cpp",
     ),
+    NotSwept(
+        r"veks(Tone|Triangle)\w+",
+        reason="a phase or a state goes in and out; see tests/gen",
+    ),
+    NotSwept(
+        r"veksFIRGen\w+",
+        reason="parameters first, and a least length; see tests/filter/design_test.cpp",
+    ),
     Span(
         r"veksSwapBytes_24u(_I)?",
         parameters=r"p\w+",

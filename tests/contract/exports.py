@@ -16,7 +16,6 @@ IMPORTS = {
     r"malloc|free": "the Malloc functions, states and work buffers",
     r"mem(cpy|move|set|cmp)|bcmp": "made by compilers from loops and copies",
     r"sysconf": "the size of the last cache, asked for once when the library is loaded",
-    r"sin|cos|sincos": "tables of transforms",
     r"omp_get_\w+|GOMP_parallel|__kmpc_\w+": "threads of filters",
     r"sin|cos|sincos": "tables of transforms, the optimal Blackman window",
     r"expl": "the constant factor of Kaiser windows, once for each call",

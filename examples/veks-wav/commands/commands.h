@@ -19,6 +19,7 @@ void addMix(CLI::App& app);
 void addConvert(CLI::App& app);
 void addSpectrum(CLI::App& app);
 void addStats(CLI::App& app);
+void addTone(CLI::App& app);
 
 }  // namespace veks_wav
 

@@ -12,9 +12,9 @@
 namespace veks_wav {
 namespace {
 
-SoundFormat checkedFormat(const std::string& path, const SoundReader& model,
+SoundFormat checkedFormat(const std::string& path, const std::string& modelPath,
                           const SoundFormat& wanted, int64_t frames) {
-  const SoundFormat format = formatOfOutput(path, model.path(), wanted);
+  const SoundFormat format = formatOfOutput(path, modelPath, wanted);
   checkFileSize(path, format, frames);
   return format;
 }
@@ -26,11 +26,18 @@ SoundWriter::SoundWriter(const std::string& path, const SoundReader& model, int6
 
 SoundWriter::SoundWriter(const std::string& path, const SoundReader& model,
                          const SoundFormat& format, int64_t frames)
-    : format_(checkedFormat(path, model, format, frames)),
+    : format_(checkedFormat(path, model.path(), format, frames)),
       output_(path),
       sink_{output_.descriptor(), 0} {
   open();
   copyTexts(model.handle());
+}
+
+SoundWriter::SoundWriter(const std::string& path, const SoundFormat& format, int64_t frames)
+    : format_(checkedFormat(path, "the tone", format, frames)),
+      output_(path),
+      sink_{output_.descriptor(), 0} {
+  open();
 }
 
 SF_VIRTUAL_IO SoundWriter::accessToSink() {

@@ -25,6 +25,9 @@ class SoundWriter {
   SoundWriter(const std::string& path, const SoundReader& model, const SoundFormat& format,
               int64_t frames);
 
+  // Without a model: the texts are empty.
+  SoundWriter(const std::string& path, const SoundFormat& format, int64_t frames);
+
   const SoundFormat& format() const {
     return format_;
   }
