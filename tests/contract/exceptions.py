@@ -36,6 +36,19 @@ EXCEPTIONS = (
         r"veksFIRGen\w+",
         reason="parameters first, and a least length; see tests/filter/design_test.cpp",
     ),
+    NotSwept(
+        r"veksFIR(GetStateSize|Init|InitAlloc|Free|(Get|Set)(Taps|DlyLine))(\d|_)\w+",
+        reason="states; see tests/filter/fir_states_test.cpp",
+    ),
+    NotSwept(
+        r"veksFIR(One)?(\d+[sf]c?)?_\d+[sf]c?(_I|_I?Sfs)?",
+        reason="a state has the taps and the delay line; see tests/filter/fir_values_test.cpp",
+    ),
+    NotSwept(
+        r"veksFIR(One)?(\d+[sf]c?)?_Direct_\w+",
+        reason="the index is memory that has to fit the number of taps, and vectors, lengths and "
+        "taps are checked in turns; see tests/filter/fir_direct_test.cpp",
+    ),
     Span(
         r"veksSwapBytes_24u(_I)?",
         parameters=r"p\w+",

@@ -1,15 +1,14 @@
 // Calls of the Fourier transforms: statuses, vectors and work buffers anywhere in memory, threads.
+#include <algorithm>
 #include <cstring>
 #include <thread>
 
-#include "contract/buffers.h"
+#include "guarded.h"
 #include "heap.h"
 #include "transform/fft_transforms.h"
 
 namespace veks::test {
 namespace {
-
-constexpr size_t kMostBytes = size_t{1} << 18;
 
 // The vectors of a transform of a few points.
 struct Vectors {
@@ -84,42 +83,6 @@ TEST(FftCalls, WithoutABufferAllocateOneForTheCall) {
   }
 }
 
-// A vector between guard pages, at the start or the end of what is between them, some bytes away.
-class Guarded {
- public:
-  explicit Guarded(bool readOnly) : pages_(kMostBytes, readOnly), background_(kMostBytes, 0xA5) {}
-
-  unsigned char* place(size_t bytes, bool atEnd, size_t distance) {
-    bytes_ = bytes;
-    start_ = atEnd ? pages_.end() - distance - bytes : pages_.begin() + distance;
-    pages_.write(from(), background_.data(), static_cast<size_t>(to() - from()));
-    return start_;
-  }
-  void fill(const void* content) const {
-    pages_.write(start_, static_cast<const unsigned char*>(content), bytes_);
-  }
-  bool isIntactAround() const {
-    const auto isBackground = [](unsigned char byte) { return byte == 0xA5; };
-    return std::all_of(from(), start_, isBackground) &&
-           std::all_of(start_ + bytes_, to(), isBackground);
-  }
-
- private:
-  static constexpr std::ptrdiff_t kAround = 512;
-  unsigned char* from() const {
-    return start_ - std::min(kAround, start_ - pages_.begin());
-  }
-  unsigned char* to() const {
-    return start_ + bytes_ +
-           std::min(kAround, pages_.end() - start_ - static_cast<std::ptrdiff_t>(bytes_));
-  }
-
-  contract::GuardedBuffer pages_;
-  std::vector<unsigned char> background_;
-  unsigned char* start_ = nullptr;
-  size_t bytes_ = 0;
-};
-
 struct GuardedVectors {
   Guarded src[2] = {Guarded(true), Guarded(true)};
   Guarded dst[2] = {Guarded(false), Guarded(false)};
@@ -134,7 +97,7 @@ void checkPlacements(const Transform& transform, int order, GuardedVectors& guar
   const size_t n = size_t{1} << order;
   const Context context(transform.contexts(), order, 8);
   const size_t bufferBytes = context.bufferBytes();
-  ASSERT_LE(bufferBytes + 64, kMostBytes);
+  ASSERT_LE(bufferBytes + 64, guarded.buffer.mostBytes());
   const Lanes<T> in = encoded<T>(transform.in, randomInput(transform, n));
   const Lanes<T> expected = resultOf(transform, context, in, n, 5);
   for (size_t distance = 0; distance < 64; distance = distance < 17 ? distance + 1 : distance + 9) {
