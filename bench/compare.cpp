@@ -122,6 +122,7 @@ void compare(benchmark::State& state, const Case& c) {
   state.counters["bytes_per_second"] =
       static_cast<double>(c.trafficBytes) / (median(samples[0]) * 1e-9);
   if (c.operations > 0) state.counters["gflops"] = c.operations / median(samples[0]);
+  if (c.samples > 0) state.counters["ns_per_sample"] = median(samples[0]) / c.samples;
   state.counters["ratio"] = ratio;
   state.counters["spread"] = (quantile(lowest, 0.75) - quantile(lowest, 0.25)) / ratio;
 }

@@ -47,13 +47,14 @@ Contestant contestant(std::string name, R (*function)(P...), A... args) {
 }
 
 struct Case {
-  std::vector<Contestant> contestants;  // the library, then its peers
-  std::function<void()> prepare;        // gives the output its content before a call
-  const unsigned char* output;          // compared after a call of each contestant
-  size_t outputBytes;
-  size_t trafficBytes;    // read and written by one call
-  double operations = 0;  // floating-point ones of a call, if they are of interest
+  std::vector<Contestant> contestants;    // the library, then its peers
+  std::function<void()> prepare;          // gives the output its content before a call
+  const unsigned char* output = nullptr;  // compared after a call of each contestant
+  size_t outputBytes = 0;
+  size_t trafficBytes = 0;  // read and written by one call
+  double operations = 0;    // floating-point ones of a call, if they are of interest
   std::function<void()> beforeTiming = nullptr;  // gives the inputs other content
+  double samples = 0;                            // of a signal that a call filters
 };
 
 // Nanoseconds per call of each contestant: samples[contestant][round].
@@ -66,9 +67,9 @@ double quantile(std::vector<double> samples, double q);
 double median(const std::vector<double>& samples);
 
 // Checks the results, runs the rounds and reports the counters: NAME_ns of each contestant,
-// bytes_per_second of the library, gflops if a call has operations, ratio and its spread
-// (interquartile range / median), and NAME_ratio of a yardstick. The label is the peer that the
-// ratio refers to.
+// bytes_per_second of the library, gflops if a call has operations, ns_per_sample if it has
+// samples, ratio and its spread (interquartile range / median), and NAME_ratio of a yardstick. The
+// label is the peer that the ratio refers to.
 void compare(benchmark::State& state, const Case& c);
 
 // Registers a benchmark of `rounds` rounds, unless setRounds() was called.

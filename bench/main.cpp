@@ -1,32 +1,17 @@
 // The benchmarks of veks. Besides the options of Google Benchmark: --rounds=N for every benchmark,
 // in place of 31 (11 for the largest vectors), and --fftw-wisdom=FILE, which keeps the plans of
 // FFTW in files whose names begin so.
-#include <sched.h>
-
 #include <cstdlib>
 #include <iostream>
 #include <string>
 #include <string_view>
 
 #include "comparisons.h"
+#include "cores.h"
 #include "fft_peer.h"
 #include "veks.h"
 
 namespace {
-
-// Pins the process to the last of the cores that it may use: the first serves most interrupts.
-// Returns the core, -1 if that failed.
-int pinToOneCore() {
-  cpu_set_t allowed;
-  if (sched_getaffinity(0, sizeof(allowed), &allowed) != 0) return -1;
-  int core = CPU_SETSIZE - 1;
-  while (core >= 0 && !CPU_ISSET(core, &allowed)) --core;
-  if (core < 0) return -1;
-  cpu_set_t one;
-  CPU_ZERO(&one);
-  CPU_SET(core, &one);
-  return sched_setaffinity(0, sizeof(one), &one) == 0 ? core : -1;
-}
 
 // Takes the options of this program out of the arguments. Returns whether all was well.
 bool readOptions(int* argc, char** argv) {
@@ -60,7 +45,7 @@ int main(int argc, char** argv) {
   }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
-  const int core = pinToOneCore();
+  const int core = veks::bench::pinToOneCore();
   if (core < 0) {
     std::cerr << "cannot pin the process to one core\n";
     return EXIT_FAILURE;

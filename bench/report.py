@@ -2,10 +2,13 @@
 """Turns the JSON output of veks_bench into tables.
 
 Times are medians in ns per call; GB/s counts the bytes that veks reads and writes, GFLOPS the
-operations of a fast Fourier transform, 5 N log2 N (2.5 of real signals). The ratio is the
+operations of a fast Fourier transform, 5 N log2 N (2.5 of real signals); of filters it stands ns per
+sample. The ratio is the
 time of the best peer / the time of veks, so above 1 veks is faster; "+-" is half the interquartile
 range of that ratio over the rounds. "stream" is the same ratio for a loop that only moves as many
-bytes. A peer with "~" rounds differently: its results are close, not the same.
+bytes. "peak" is the same ratio for as many multiply-adds in registers alone, the fraction of the
+processor's peak that a filter reaches; "own32f" that for the filter of Vek32f with as many taps.
+A peer with "~" rounds differently: its results are close, not the same.
 """
 
 import argparse
@@ -16,7 +19,7 @@ import sys
 
 MARK_BELOW = 0.95
 OWN_COUNTERS = {"veks_ns", "overhead_ns"}
-YARDSTICK = "stream"
+YARDSTICKS = ("stream", "peak", "own32f")
 
 
 def number(ns):
@@ -37,7 +40,7 @@ def print_table(header, rows, text_columns):
 
 def peers_of(entry):
     names = [k.removesuffix("_ns") for k in entry if k.endswith("_ns") and k not in OWN_COUNTERS]
-    return [name for name in names if name != YARDSTICK]
+    return [name for name in names if name not in YARDSTICKS]
 
 
 def parts_of(entry):
@@ -49,13 +52,23 @@ def is_low(entry):
     return entry["ratio"] < MARK_BELOW
 
 
-def has_operations(entry):
-    return "gflops" in entry
+def unit_of(entry):
+    if "ns_per_sample" in entry:
+        return "ns/sample"
+    return "GFLOPS" if "gflops" in entry else "GB/s"
 
 
 def rate(entry, decimals):
-    value = entry["gflops"] if has_operations(entry) else entry["bytes_per_second"] / 1e9
+    unit = unit_of(entry)
+    if unit == "ns/sample":
+        return f"{entry['ns_per_sample']:.3g}"
+    value = entry["gflops"] if unit == "GFLOPS" else entry["bytes_per_second"] / 1e9
     return f"{value:.{decimals}f}"
+
+
+def yardstick_of(entry):
+    """Its name, where there is one."""
+    return next((name for name in YARDSTICKS if name + "_ratio" in entry), "")
 
 
 def comparison_row(entry, peers):
@@ -67,7 +80,7 @@ def comparison_row(entry, peers):
         entry["label"],
         f"{entry['ratio']:.2f}",
         f"{entry['spread'] * entry['ratio'] / 2:.2f}",
-        f"{entry[YARDSTICK + '_ratio']:.2f}" if YARDSTICK + "_ratio" in entry else "",
+        f"{entry[yardstick_of(entry) + '_ratio']:.2f}" if yardstick_of(entry) else "",
         "LOW" if is_low(entry) else "",
     ]
 
@@ -77,14 +90,19 @@ def has_loop(entry):
     return bool({"loop", "loop~"} & set(peers_of(entry)))
 
 
+def table_of(entry):
+    unit = unit_of(entry)
+    yardstick = yardstick_of(entry) if unit == "ns/sample" else YARDSTICKS[0]
+    return has_loop(entry), unit, yardstick
+
+
 def print_comparisons(entries):
-    for key, group in itertools.groupby(entries, lambda e: (has_loop(e), has_operations(e))):
+    for (_, unit, yardstick), group in itertools.groupby(entries, table_of):
         group = list(group)
-        unit = "GFLOPS" if key[1] else "GB/s"
         peers = list(dict.fromkeys(peer for entry in group for peer in peers_of(entry)))
         header = ["function", "size", "vectors", "veks", unit, *peers, "best peer", "ratio"]
         rows = [comparison_row(entry, peers) for entry in group]
-        print_table([*header, "+-", YARDSTICK, ""], rows, 3)
+        print_table([*header, "+-", yardstick, ""], rows, 3)
     if not entries:
         return
     lowest = min(entries, key=lambda entry: entry["ratio"])

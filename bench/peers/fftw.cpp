@@ -1,6 +1,6 @@
 // FFTW, with the plans that it finds best by measuring, in memory that it aligns itself. Patient
 // planning takes minutes for more than 2^16 points.
-#include <fftw3.h>
+#include "peers/fftw.h"
 
 #include <cstring>
 #include <memory>
@@ -11,40 +11,6 @@
 namespace veks::bench {
 namespace {
 
-// Both precisions under the same names.
-struct Single {
-  using Real = float;
-  using Complex = fftwf_complex;
-  using Plan = fftwf_plan;
-  static constexpr const char* kName = "single";
-  static constexpr auto kMalloc = fftwf_malloc;
-  static constexpr auto kFree = fftwf_free;
-  static constexpr auto kComplex = fftwf_plan_dft_1d;
-  static constexpr auto kFromReal = fftwf_plan_dft_r2c_1d;
-  static constexpr auto kToReal = fftwf_plan_dft_c2r_1d;
-  static constexpr auto kExecute = fftwf_execute;
-  static constexpr auto kDestroy = fftwf_destroy_plan;
-  static constexpr auto kForget = fftwf_forget_wisdom;
-  static constexpr auto kImport = fftwf_import_wisdom_from_filename;
-  static constexpr auto kExport = fftwf_export_wisdom_to_filename;
-};
-struct Double {
-  using Real = double;
-  using Complex = fftw_complex;
-  using Plan = fftw_plan;
-  static constexpr const char* kName = "double";
-  static constexpr auto kMalloc = fftw_malloc;
-  static constexpr auto kFree = fftw_free;
-  static constexpr auto kComplex = fftw_plan_dft_1d;
-  static constexpr auto kFromReal = fftw_plan_dft_r2c_1d;
-  static constexpr auto kToReal = fftw_plan_dft_c2r_1d;
-  static constexpr auto kExecute = fftw_execute;
-  static constexpr auto kDestroy = fftw_destroy_plan;
-  static constexpr auto kForget = fftw_forget_wisdom;
-  static constexpr auto kImport = fftw_import_wisdom_from_filename;
-  static constexpr auto kExport = fftw_export_wisdom_to_filename;
-};
-
 template <class F>
 class Transform {
  public:
@@ -52,11 +18,8 @@ class Transform {
 
   Transform(const FftCase& fft, unsigned effort, const std::string& wisdom)
       : fft_(fft), in_(allocate()), out_(fft.isInPlace ? in_ : allocate()) {
-    const std::string file = fftWisdom().empty() ? "" : fftWisdom() + '.' + F::kName + '.' + wisdom;
-    F::kForget();
-    if (!file.empty()) F::kImport(file.c_str());
+    const FftwWisdom<F> plans(wisdom);
     plan_ = plan(effort);
-    if (!file.empty()) F::kExport(file.c_str());
   }
   ~Transform() {
     F::kDestroy(plan_);
@@ -137,7 +100,7 @@ std::vector<FftPeer> peersIn(const FftCase& fft) {
 }
 
 const OptionalFftPeers peers([](const FftCase& fft) {
-  return fft.isDouble ? peersIn<Double>(fft) : peersIn<Single>(fft);
+  return fft.isDouble ? peersIn<FftwDouble>(fft) : peersIn<FftwSingle>(fft);
 });
 
 }  // namespace

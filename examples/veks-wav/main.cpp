@@ -17,6 +17,7 @@ constexpr void (*kCommands[])(CLI::App&) = {
     veks_wav::addInfo,    veks_wav::addReverse,  veks_wav::addConcat, veks_wav::addMix,
     veks_wav::addGain,    veks_wav::addLimit,    veks_wav::addCrush,  veks_wav::addPad,
     veks_wav::addConvert, veks_wav::addSpectrum, veks_wav::addStats,  veks_wav::addTone,
+    veks_wav::addFilter,
 };
 
 constexpr int kFailure = 1;

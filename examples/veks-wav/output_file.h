@@ -24,6 +24,11 @@ class OutputFile {
     return path_;
   }
 
+  // Where the content is until then.
+  const std::string& temporary() const {
+    return temporary_;
+  }
+
   void commit();
 
  private:

@@ -6,22 +6,24 @@ import shutil
 import unittest
 
 from program import ProgramTest
+from veks_wav_filter_test import weights_of
 from veks_wav_levels_test import finite_sound, value_of
 from veks_wav_plot_test import blue_pixels, picture_of, rows_of
 from wav_files import KINDS, SPECIAL, Sound, bits_of, silence
 
 
-def levels_of(samples, order):
+def levels_of(samples, order, window="none"):
     """The levels in dB at all points, from the definition of the transform."""
     size = 1 << order
+    weights = weights_of(window, size)
     padded = samples + [0.0] * (size - len(samples))
     starts = range(0, len(padded) - size + 1, size // 2)
     turns = [cmath.exp(-2j * math.pi * k / size) for k in range(size)]
     levels = []
     for point in range(size // 2 + 1):
-        power = sum(abs(sum(padded[start + i] * turns[i * point % size] for i in range(size))) ** 2
+        power = sum(abs(sum(padded[start + i] * weights[i] * turns[i * point % size] for i in range(size))) ** 2
                     for start in starts) / len(starts)
-        scale = (1 if point in (0, size // 2) else 2) / size
+        scale = (1 if point in (0, size // 2) else 2) / sum(weights)
         levels.append(10 * math.log10(power * scale ** 2) if power else -math.inf)
     return levels
 
@@ -52,6 +54,17 @@ class SpectrumTest(ProgramTest):
                         for got, wanted in zip(levels, levels_of(samples, order)):
                             self.assertTrue(abs(got - wanted) < 1e-5 or got == wanted, (got, wanted))
 
+    def test_windows(self):
+        samples = [tuple(bits_of(math.sin(i * i / 70 + c)) for c in range(2)) for i in range(100)]
+        for window in ("bartlett", "hann", "hamming", "blackman", "kaiser"):
+            with self.subTest(window=window):
+                _, _, columns = self.table_of(Sound("f32", 2, samples), "--order", 5, "--window",
+                                              window)
+                for channel, levels in enumerate(columns[1:]):
+                    values = [value_of(frame[channel], "f32") for frame in samples]
+                    for got, wanted in zip(levels, levels_of(values, 5, window)):
+                        self.assertAlmostEqual(got, wanted, delta=1e-3)
+
     def test_a_sine_has_its_level_at_its_frequency(self):
         tone = lambda i, level, hertz: bits_of(level * math.sin(2 * math.pi * i * hertz / 8000))
         sound = Sound("f32", 2, [(tone(i, 1, 1000), tone(i, 0.1, 3000)) for i in range(9000)])
@@ -81,7 +94,8 @@ class SpectrumTest(ProgramTest):
         for name in ("old.csv", "old.png"):
             (self.dir / name).write_text("old")
         cases = [(("--order", "3"), []), (("--order", "17"), []), (("--order", "x"), []),
-                 (("--window", "hann"), ["hann"]), (("--csv",), []), (("--plot",), []),
+                 (("--window", "square"), ["square"]),
+                 (("--window", "hann", "--kaiser-beta", "1"), ["--kaiser-beta"]), (("--csv",), []), (("--plot",), []),
                  (("--plot", "x.txt"), ["x.txt", ".png"]),
                  (("--csv", "in.wav"), ["in.wav", "sound file itself"]),
                  (("--plot", "x.png", "--csv", "./x.png"), ["./x.png", "picture itself"]),

@@ -17,6 +17,7 @@ void addGain(CLI::App& app);
 void addLimit(CLI::App& app);
 void addMix(CLI::App& app);
 void addConvert(CLI::App& app);
+void addFilter(CLI::App& app);
 void addSpectrum(CLI::App& app);
 void addStats(CLI::App& app);
 void addTone(CLI::App& app);

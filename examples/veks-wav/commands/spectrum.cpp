@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "commands/commands.h"
+#include "commands/windows.h"
 #include "error.h"
 #include "output_file.h"
 #include "plot/panels.h"
@@ -27,7 +28,7 @@ constexpr int kMostOrder = 16;
 struct Options {
   std::string in;
   int order = 12;
-  std::string window = "none";
+  WindowOptions window = {"none", {}};
   std::string plot;
   std::string table;
 };
@@ -99,6 +100,7 @@ void print(const SoundReader& in, const Spectrum& spectrum) {
 }
 
 void show(const Options& options) {
+  const Window window = windowOf(options.window);
   SoundReader in(options.in);
   if (!options.plot.empty()) requirePictureName(options.plot, in);
   if (!options.table.empty()) requireTableName(options);
@@ -107,7 +109,7 @@ void show(const Options& options) {
   std::optional<OutputFile> table;
   if (!options.plot.empty()) picture.emplace(options.plot);
   if (!options.table.empty()) table.emplace(options.table);
-  const Spectrum spectrum(in, options.order);
+  const Spectrum spectrum(in, options.order, window);
   if (table) writeTable(spectrum, in.channels(), *table);
   if (picture) plotSpectrum(in, spectrum, *picture);
   if (table) table->commit();
@@ -125,17 +127,17 @@ void addSpectrum(CLI::App& app) {
                    "Blocks of 2^N samples, N from 4 to 16; 12 if not given")
       ->type_name("N")
       ->check(CLI::Range(kLeastOrder, kMostOrder));
-  command->add_option("--window", options->window, "The window of each block: none")
-      ->type_name("NAME")
-      ->check(CLI::IsMember({"none"}));
+  addWindow(command, options->window, "The window of each block");
   command->add_option("--plot", options->plot, "Draw the spectrum of each channel (with gnuplot)")
       ->type_name("FILE.png");
   command->add_option("--csv", options->table, "Write a table of frequencies and levels")
       ->type_name("FILE");
   command->footer(
-      "The power spectra of blocks that overlap by half are averaged. 0 dB is a sine of full\n"
-      "scale. A sound shorter than a block is filled up with silence; frames after the last\n"
-      "whole block are left out.\n");
+      std::string(
+          "The power spectra of blocks that overlap by half are averaged. 0 dB is a sine of full\n"
+          "scale. A sound shorter than a block is filled up with silence; frames after the last\n"
+          "whole block are left out.\n") +
+      kWindowRules);
   command->callback([options] { show(*options); });
 }
 

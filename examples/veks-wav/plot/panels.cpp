@@ -32,11 +32,11 @@ bool endsInPng(const std::string& path) {
   return extension == ".png" || extension == ".PNG";
 }
 
-std::string subtitle(const SoundReader& sound, int panels, const std::string& note) {
+std::string subtitle(const SoundReader& sound, int channels, const std::string& note) {
   std::ostringstream text;
   text << containerName(sound.format()) << ", " << describe(sound.format()) << ", "
        << std::setprecision(4) << sound.seconds() << " s" << note;
-  if (panels < sound.channels()) text << " (channels 1 to " << panels << " are shown)";
+  if (channels < sound.channels()) text << " (channels 1 to " << channels << " are shown)";
   return text.str();
 }
 
@@ -56,9 +56,11 @@ std::string channelName(int channel, int channels) {
   return "Channel " + std::to_string(channel + 1);
 }
 
-Panels::Panels(const SoundReader& sound)
+Panels::Panels(const SoundReader& sound, const std::string& last)
     : sound_(sound),
-      count_(std::min(sound.channels(), kMostPanels)),
+      last_(last),
+      channels_(std::min(sound.channels(), kMostPanels)),
+      count_(channels_ + (last.empty() ? 0 : 1)),
       height_(kTop + count_ * panelHeight(count_) + (count_ - 1) * kGap + kBottom) {}
 
 void Panels::writeHead(std::ostream& out, const std::string& note) const {
@@ -77,20 +79,26 @@ void Panels::writeHead(std::ostream& out, const std::string& note) const {
       << "set rmargin at screen " << 1 - double{kRight} / kWidth << "\n"
       << "set format x ''\n";
   writeLabel(out, 1, quoted(name) + " font ',17'", 30);
-  writeLabel(out, 2, quoted(subtitle(sound_, count_, note)) + " textcolor '#666666'", 60);
+  writeLabel(out, 2, quoted(subtitle(sound_, channels_, note)) + " textcolor '#666666'", 60);
+}
+
+void Panels::writeKey(std::ostream& out) const {
+  constexpr int kNameWidth = 90;
+  out << "set key horizontal samplen 2 textcolor '#333333' top right at screen "
+      << 1 - double{kRight + kNameWidth} / kWidth << ',' << fromTop(kTop - 30) << "\n";
 }
 
 void Panels::writeStart(std::ostream& out, int panel) const {
   const int top = kTop + panel * (panelHeight(count_) + kGap);
   out << "set tmargin at screen " << fromTop(top) << "\n"
       << "set bmargin at screen " << fromTop(top + panelHeight(count_)) << "\n"
-      << "set label 3 " << quoted(channelName(panel, sound_.channels()))
+      << "set label 3 " << quoted(panel < channels_ ? channelName(panel, sound_.channels()) : last_)
       << " at graph 1,1 right offset 0,0.6 textcolor '#333333'\n";
   if (panel == count_ - 1) out << "set format x\n";
 }
 
 void Panels::writeEnd(std::ostream& out, int panel) const {
-  out << "unset label 1\nunset label 2\n";
+  out << "unset label 1\nunset label 2\nunset key\n";
   if (panel == count_ - 1) out << "unset multiplot\n";
 }
 

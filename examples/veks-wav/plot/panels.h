@@ -1,4 +1,4 @@
-// What pictures of sounds have in common: a title, and a panel for each channel.
+// What pictures of sounds have in common: a title, a panel for each channel, and perhaps one more.
 #ifndef VEKS_WAV_PLOT_PANELS_H
 #define VEKS_WAV_PLOT_PANELS_H
 
@@ -20,15 +20,22 @@ class Panels {
   // The width of a panel in pixels.
   static constexpr int kColumns = 1440;
 
-  explicit Panels(const SoundReader& sound);
+  // A panel below those of the channels has the name `last`.
+  explicit Panels(const SoundReader& sound, const std::string& last = "");
 
   // There are fewer panels than channels if these are many.
+  int channels() const {
+    return channels_;
+  }
   int count() const {
     return count_;
   }
 
   // The settings of the whole picture and its title; `note` ends the second line of it.
   void writeHead(std::ostream& out, const std::string& note) const;
+
+  // A key to the lines of the first panel, beside its name.
+  void writeKey(std::ostream& out) const;
 
   // The place and the name of a panel, before it is plotted, and what follows the plot.
   void writeStart(std::ostream& out, int panel) const;
@@ -39,6 +46,8 @@ class Panels {
   double fromTop(int pixels) const;
 
   const SoundReader& sound_;
+  std::string last_;
+  int channels_;
   int count_;
   int height_;
 };

@@ -6,16 +6,17 @@
 #include <vector>
 
 #include "sound/reader.h"
+#include "sound/window.h"
 
 namespace veks_wav {
 
-// Blocks of 2^order frames, each starting half a block after the one before, are transformed, and
-// their power spectra averaged for each channel. What does not fill a block is left out, but a
-// sound that is shorter than one is filled up with silence.
+// Blocks of 2^order frames, each starting half a block after the one before, are windowed and
+// transformed, and their power spectra averaged for each channel. What does not fill a block is
+// left out, but a sound that is shorter than one is filled up with silence.
 class Spectrum {
  public:
   // Reads the file, which has frames, from its beginning.
-  Spectrum(SoundReader& sound, int order);
+  Spectrum(SoundReader& sound, int order, const Window& window);
 
   int64_t blocks() const {
     return blocks_;
@@ -37,12 +38,13 @@ class Spectrum {
   int peak(int channel) const;
 
  private:
-  void add(SoundReader& sound, int order);
+  void add(SoundReader& sound, int order, const Window& window);
 
   int channels_;
   double rate_;
   int frames_;
   int64_t blocks_;
+  double weight_;  // of all frames of a block
   // For each channel the sum of the squares of all points.
   std::vector<std::vector<double>> powers_;
 };

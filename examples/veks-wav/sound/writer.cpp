@@ -112,12 +112,18 @@ void SoundWriter::write(const Vek64f* frames, int count) {
   checkWritten(sf_writef_double(handle_.get(), frames, count), count);
 }
 
-void SoundWriter::finish() {
+const std::string& SoundWriter::close() {
+  if (!handle_) return output_.temporary();
   const int error = sf_close(handle_.release());
   checkSink();
   if (error != SF_ERR_NO_ERROR) {
     throw Error(output_.path(), std::string("cannot be written: ") + sf_error_number(error));
   }
+  return output_.temporary();
+}
+
+void SoundWriter::finish() {
+  close();
   output_.commit();
 }
 

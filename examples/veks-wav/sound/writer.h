@@ -38,7 +38,11 @@ class SoundWriter {
   void write(const Vek32f* frames, int count);
   void write(const Vek64f* frames, int count);
 
-  // Without this nothing is left of the file.
+  // Ends the writing. The content can be read as a file of the name that this returns, as long as
+  // finish() is not called.
+  const std::string& close();
+
+  // Closes the file if it still is open. Without this nothing is left of it.
   void finish();
 
  private:
