@@ -11,12 +11,17 @@ namespace {
 constexpr State::Memory kMemories[] = {State::Memory::kOwn, State::Memory::kBuffer};
 // Long calls are those of more than 1600 results.
 constexpr size_t kLengths[] = {1600, 1601, 1607, 7, 3203, 5000};
+constexpr size_t kAllLengths = 14018;
+
+// With so many taps, enough work for a team of eight.
+constexpr size_t kManyTaps = 500;
+constexpr size_t kLongest = 34000;
 
 TEST(FirThreads, OfAnyNumberGiveTheResults) {
   Vectors vectors;
   for (const Row& row : rows()) {
-    for (size_t taps : Sizes{1, 3, 64, 500}) {
-      const Stream stream(row, taps, 14018);
+    for (size_t taps : Sizes{1, 3, 64, kManyTaps}) {
+      const Stream stream(row, taps, kAllLengths + kLongest);
       for (State::Memory memory : kMemories) {
         for (int threads : {1, 2, 3, 8}) {
           const Threads team(threads);
@@ -25,6 +30,7 @@ TEST(FirThreads, OfAnyNumberGiveTheResults) {
           for (size_t n : kLengths) {
             n == 3203 ? walk.inPlace(n) : walk.block(n);
           }
+          if (taps == kManyTaps && threads == 8) walk.block(kLongest);
           walk.expectLine();
         }
       }

@@ -92,9 +92,13 @@ struct FirResults {
   }
 };
 
-// The most taps to a loaded vector that there are registers for.
+// Vectors of results, and taps to a loaded vector, for which there are registers.
 template <int kParts>
-constexpr int kTapsToLoad = (HWY_TARGET <= HWY_AVX3 ? 8 : 4) / kParts;
+struct Most {
+  static constexpr int kScale = HWY_TARGET == HWY_EMU128 ? 1 : HWY_TARGET <= HWY_AVX3 ? 4 : 2;
+  static constexpr int kVectors = 4 * kScale / kParts;
+  static constexpr int kTaps = 2 * kScale / kParts;
+};
 
 // Adds the products of `count` times kTaps taps.
 template <int kTaps, int kParts, class Results, class D, class T>
@@ -135,43 +139,43 @@ HWY_INLINE void AddProducts(D d, Results& results, const T* HWY_RESTRICT taps, s
 }
 
 // dst[i] = sum of taps[k] window[i + k] over k, for kVectors vectors of results.
-template <int kParts, int kVectors, class D, class T>
+template <int kParts, int kVectors, int kTaps, class D, class T>
 HWY_INLINE void FilterVectors(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
                               const T* HWY_RESTRICT window, T* HWY_RESTRICT dst) {
   using Results = FirResults<D, kParts, kVectors>;
   constexpr size_t kPoints = Results::kPoints;
   Results results;
   results.Clear(d);
-  AddProducts<kTapsToLoad<kParts>, kParts>(d, results, taps, tapsLen, window, 0);
+  AddProducts<kTaps, kParts>(d, results, taps, tapsLen, window, 0);
   for (int v = 0; v < kVectors; ++v) {
     hn::StoreU(results.Result(v), d, dst + static_cast<size_t>(v) * kPoints * kParts);
   }
 }
 
-template <int kParts, int kVectors, class D, class T>
+template <int kParts, int kVectors, int kTaps, class D, class T>
 HWY_INLINE size_t FilterWhole(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
                               const T* HWY_RESTRICT window, T* HWY_RESTRICT dst, size_t i,
                               size_t n) {
   constexpr size_t kPoints = kVectors * hn::MaxLanes(D()) / kParts;
   for (; i + kPoints <= n; i += kPoints) {
-    FilterVectors<kParts, kVectors>(d, taps, tapsLen, window + i * kParts, dst + i * kParts);
+    FilterVectors<kParts, kVectors, kTaps>(d, taps, tapsLen, window + i * kParts, dst + i * kParts);
   }
   return i;
 }
 
 // Fewer results than a vector has, or with a full vector the last ones.
-template <int kParts, class D, class T>
+template <int kParts, int kTaps, class D, class T>
 HWY_INLINE void FilterLast(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
                            const T* HWY_RESTRICT window, T* HWY_RESTRICT dst, size_t i, size_t n) {
   constexpr size_t kLanes = hn::MaxLanes(D());
   constexpr size_t kPoints = kLanes / kParts;
   if (n >= kPoints) {
-    if (i + kPoints <= n) i = FilterWhole<kParts, 1>(d, taps, tapsLen, window, dst, i, n);
+    if (i + kPoints <= n) i = FilterWhole<kParts, 1, kTaps>(d, taps, tapsLen, window, dst, i, n);
     if (i == n) return;
     const size_t last = (n - kPoints) * kParts;
-    FilterVectors<kParts, 1>(d, taps, tapsLen, window + last, dst + last);
+    FilterVectors<kParts, 1, kTaps>(d, taps, tapsLen, window + last, dst + last);
   } else if constexpr (kPoints > 1) {
-    FilterLast<kParts>(hn::CappedTag<T, kLanes / 2>(), taps, tapsLen, window, dst, i, n);
+    FilterLast<kParts, 2>(hn::CappedTag<T, kLanes / 2>(), taps, tapsLen, window, dst, i, n);
   }
 }
 
@@ -181,11 +185,12 @@ template <class T, int kParts>
 VekStatus FirProducts(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RESTRICT window,
                       T* HWY_RESTRICT dst, size_t n) {
   const hn::ScalableTag<T> d;
-  constexpr int kMost = (HWY_TARGET <= HWY_AVX3 ? 16 : 8) / kParts;
-  size_t i = FilterWhole<kParts, kMost>(d, taps, tapsLen, window, dst, 0, n);
-  i = FilterWhole<kParts, kMost / 2>(d, taps, tapsLen, window, dst, i, n);
-  i = FilterWhole<kParts, kMost / 4>(d, taps, tapsLen, window, dst, i, n);
-  FilterLast<kParts>(d, taps, tapsLen, window, dst, i, n);
+  constexpr int kVectors = Most<kParts>::kVectors;
+  constexpr int kTaps = Most<kParts>::kTaps;
+  constexpr int kFewer = kTaps < 4 ? kTaps : 4;
+  size_t i = FilterWhole<kParts, kVectors, kTaps>(d, taps, tapsLen, window, dst, 0, n);
+  i = FilterWhole<kParts, (kVectors + 3) / 4, kFewer>(d, taps, tapsLen, window, dst, i, n);
+  FilterLast<kParts, kFewer>(d, taps, tapsLen, window, dst, i, n);
   return vekStsOk;
 }
 
