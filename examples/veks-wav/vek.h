@@ -71,12 +71,12 @@ inline void shiftLeft(Vek32s* samples, int len, int bits) {
 }
 
 // Blocks of waves that start at the phase, which is moved to the next block.
-inline void makeTone(Vek32f* samples, int len, Vek32f magnitude, Vek32f frequency, Vek32f& phase) {
-  check(veksTone_Direct_32f(samples, len, magnitude, frequency, &phase, vekAlgHintAccurate));
+inline void makeTone(Vek64f* samples, int len, Vek64f magnitude, Vek64f frequency, Vek64f& phase) {
+  check(veksTone_Direct_64f(samples, len, magnitude, frequency, &phase, vekAlgHintAccurate));
 }
-inline void makeTriangle(Vek32f* samples, int len, Vek32f magnitude, Vek32f frequency,
-                         Vek32f& phase) {
-  check(veksTriangle_Direct_32f(samples, len, magnitude, frequency, 0, &phase));
+inline void makeTriangle(Vek64f* samples, int len, Vek64f magnitude, Vek64f frequency,
+                         Vek64f& phase) {
+  check(veksTriangle_Direct_64f(samples, len, magnitude, frequency, 0, &phase));
 }
 
 // values[k] * conj(values[k]) of a spectrum in the format Pack: its squares, and zeros as imaginary

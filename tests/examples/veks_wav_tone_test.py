@@ -14,5 +14,5 @@ class Tone(ProgramTest):
         self.assertEqual(len(frames), 144000)
         for n, frame in enumerate(frames):
             exact = 32768 * math.sin(2 * math.pi * (n % 48) / 48)
-            self.assertAlmostEqual(frame[0], min(exact, 32767), delta=1.6)
+            self.assertAlmostEqual(frame[0], min(exact, 32767), delta=0.6)
             self.assertEqual(frame[0], frame[1])

@@ -42,8 +42,8 @@ size_t stateBytes(const Row& row, size_t tapsLen);
 
 // Where calls find and leave samples.
 struct Vectors {
-  Guarded src{true, size_t{1} << 19};
-  Guarded dst{false, size_t{1} << 19};
+  Guarded src{true, size_t{1} << 20};
+  Guarded dst{false, size_t{1} << 20};
 };
 
 // Filters a stream from its start on, one call after the other, each with vectors in other places

@@ -29,22 +29,22 @@ struct Options {
 
 // A phase of degrees as one that the library takes; it counts from the peak of a wave, a user from
 // the rise through zero.
-Vek32f startPhase(double degrees) {
+Vek64f startPhase(double degrees) {
   const double turns = degrees / 360 - 0.25;
-  const Vek32f phase = static_cast<Vek32f>((turns - std::floor(turns)) * kTurn);
-  return static_cast<double>(phase) < kTurn ? phase : 0;
+  const Vek64f phase = (turns - std::floor(turns)) * kTurn;
+  return phase < kTurn ? phase : 0;
 }
 
 // From the last sample on, so that none is overwritten before it is copied.
-void spread(Vek32f* samples, int frames, int channels) {
+void spread(Vek64f* samples, int frames, int channels) {
   for (int i = frames - 1; i >= 0; --i) {
     std::fill_n(samples + i * channels, channels, samples[i]);
   }
 }
 
 void tone(const Options& options) {
-  const Vek32f frequency = static_cast<Vek32f>(options.frequency / options.rate);
-  if (frequency >= 0.5F) {
+  const double frequency = options.frequency / options.rate;
+  if (frequency >= 0.5) {
     throw Error(options.out, "a rate of " + std::to_string(options.rate) +
                                  " Hz holds frequencies below half of it");
   }
@@ -54,10 +54,10 @@ void tone(const Options& options) {
   SoundWriter out(options.out, wanted, frames);
   requireEncoding(options.out, out.format(), wanted, options.format);
   const int block = framesPerBlock(options.channels);
-  FloatWriter<Vek32f> writer(out, block);
-  Samples<Vek32f> samples(block * options.channels);
-  const Vek32f magnitude = static_cast<Vek32f>(std::pow(10, options.level / 20));
-  Vek32f phase = startPhase(options.degrees);
+  FloatWriter<Vek64f> writer(out, block);
+  Samples<Vek64f> samples(block * options.channels);
+  const double magnitude = std::pow(10, options.level / 20);
+  Vek64f phase = startPhase(options.degrees);
   inBlocks(frames, block, [&](int count) {
     if (options.shape == "sine") {
       makeTone(samples.data(), count, magnitude, frequency, phase);
