@@ -13,8 +13,11 @@ const std::string kNameBeforeMain = vekGetTargetName();
 TEST(Targets, BestOneIsActiveFromTheStart) {
   EXPECT_EQ(kNameBeforeMain, targetName(targetCount() - 1));
   EXPECT_EQ(kNameBeforeMain, vekGetTargetName());
-  std::string expected = __builtin_cpu_supports("sse4.2") ? "SSE4" : "EMU128";
-#ifdef __x86_64__
+  std::string expected = "EMU128";
+#ifndef VEKS_DISABLE_SSE4
+  if (__builtin_cpu_supports("sse4.2")) expected = "SSE4";
+#endif
+#if defined(__x86_64__) && !defined(VEKS_DISABLE_AVX2)
   const bool avx2 = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
                     __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2");
   if (avx2) expected = "AVX2";

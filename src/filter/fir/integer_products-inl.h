@@ -16,7 +16,7 @@ namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
 // kVectors times as many results as a vector of 16 bits has lanes, the even and the odd ones apart.
-template <size_t kApart, int kVectors, class D>
+template <size_t kApart, size_t kVectors, class D>
 HWY_INLINE void SumPairs(D d, const int32_t* HWY_RESTRICT evenTaps,
                          const int32_t* HWY_RESTRICT oddTaps, size_t pairs,
                          const int16_t* HWY_RESTRICT window, int32_t* HWY_RESTRICT sums) {
@@ -27,29 +27,29 @@ HWY_INLINE void SumPairs(D d, const int32_t* HWY_RESTRICT evenTaps,
   VW even[kVectors], odd[kVectors];
   // The products of the upper halves where an instruction does not add them at once.
   VW evenRest[kVectors], oddRest[kVectors];
-  for (int v = 0; v < kVectors; ++v) {
+  for (size_t v = 0; v < kVectors; ++v) {
     even[v] = odd[v] = evenRest[v] = oddRest[v] = hn::Zero(dw);
   }
   for (size_t k = 0; k < pairs; ++k) {
     const V evenTap = hn::BitCast(d, hn::Set(dw, evenTaps[k]));
     const V oddTap = hn::BitCast(d, hn::Set(dw, oddTaps[k]));
     HWY_UNROLL(8)
-    for (int v = 0; v < kVectors; ++v) {
-      const int16_t* const at = window + 2 * k + static_cast<size_t>(v) * kLanes;
+    for (size_t v = 0; v < kVectors; ++v) {
+      const int16_t* const at = window + 2 * k + v * kLanes;
       const V x = hn::LoadU(d, at);
       const V next = kApart == 0 ? x : hn::LoadU(d, at + kApart);
       even[v] = hn::ReorderWidenMulAccumulate(dw, x, evenTap, even[v], evenRest[v]);
       odd[v] = hn::ReorderWidenMulAccumulate(dw, next, oddTap, odd[v], oddRest[v]);
     }
   }
-  for (int v = 0; v < kVectors; ++v) {
+  for (size_t v = 0; v < kVectors; ++v) {
     const VW e = hn::RearrangeToOddPlusEven(even[v], evenRest[v]);
     const VW o = hn::RearrangeToOddPlusEven(odd[v], oddRest[v]);
-    hn::StoreInterleaved2(e, o, dw, sums + static_cast<size_t>(v) * kLanes);
+    hn::StoreInterleaved2(e, o, dw, sums + v * kLanes);
   }
 }
 
-template <size_t kApart, int kVectors, class D>
+template <size_t kApart, size_t kVectors, class D>
 HWY_INLINE size_t SumWhole(D d, const int32_t* HWY_RESTRICT evenTaps,
                            const int32_t* HWY_RESTRICT oddTaps, size_t pairs,
                            const int16_t* HWY_RESTRICT window, int32_t* HWY_RESTRICT sums, size_t i,
@@ -88,7 +88,7 @@ VekStatus FirIntegerProducts(const int32_t* HWY_RESTRICT evenTaps,
                              const int16_t* HWY_RESTRICT window, int32_t* HWY_RESTRICT sums,
                              size_t n) {
   const hn::ScalableTag<int16_t> d;
-  constexpr int kMost = HWY_TARGET <= HWY_AVX3 ? 8 : 4;
+  constexpr size_t kMost = HWY_TARGET <= HWY_AVX3 ? 8 : 4;
   size_t i = SumWhole<kApart, kMost>(d, evenTaps, oddTaps, pairs, window, sums, 0, n);
   i = SumWhole<kApart, kMost / 4>(d, evenTaps, oddTaps, pairs, window, sums, i, n);
   SumLast<kApart>(d, evenTaps, oddTaps, pairs, window, sums, i, n);

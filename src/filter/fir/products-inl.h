@@ -28,60 +28,59 @@ HWY_INLINE void Pin(V& v) {
 
 // One tap in all lanes, for real filters one vector, for complex ones two. Products with the latter
 // are added up apart: those with the real part of the tap and those with its imaginary part.
-template <class V, int kParts>
+template <class V, size_t kParts>
 struct Tap {
   V part[kParts];
 };
 
 // kVectors vectors of results. The accumulators of one result are kSets, added up at the end, where
 // there are so few vectors that sums would wait for each other.
-template <class D, int kParts, int kVectors>
+template <class D, size_t kParts, size_t kVectors>
 struct FirResults {
   using V = hn::Vec<D>;
   using T = hn::TFromD<D>;
   static constexpr size_t kPoints = hn::MaxLanes(D()) / kParts;
-  static constexpr int kSets = kVectors * kParts >= 8 ? 1 : kVectors * kParts >= 4 ? 2 : 4;
+  static constexpr size_t kSets = kVectors * kParts >= 8 ? 1 : kVectors * kParts >= 4 ? 2 : 4;
 
   V sums[kSets][kVectors][kParts];
 
   HWY_INLINE void Clear(D d) {
-    for (int s = 0; s < kSets; ++s) {
-      for (int v = 0; v < kVectors; ++v) {
-        for (int p = 0; p < kParts; ++p) sums[s][v][p] = hn::Zero(d);
+    for (size_t s = 0; s < kSets; ++s) {
+      for (size_t v = 0; v < kVectors; ++v) {
+        for (size_t p = 0; p < kParts; ++p) sums[s][v][p] = hn::Zero(d);
       }
     }
   }
 
   // Adds the products of kTaps taps, each a vector of points after the one before. A loaded vector
   // meets all of them.
-  template <int kTaps>
+  template <size_t kTaps>
   HWY_INLINE void Add(D d, const T* HWY_RESTRICT taps, const T* HWY_RESTRICT window) {
     constexpr size_t kLanes = kPoints * kParts;
     Tap<V, kParts> tap[kTaps];
-    for (int m = 0; m < kTaps; ++m) {
-      for (int p = 0; p < kParts; ++p) tap[m].part[p] = hn::Set(d, taps[m * kLanes + p]);
+    for (size_t m = 0; m < kTaps; ++m) {
+      for (size_t p = 0; p < kParts; ++p) tap[m].part[p] = hn::Set(d, taps[m * kLanes + p]);
     }
     HWY_UNROLL(32)
-    for (int q = 0; q < kVectors + kTaps - 1; ++q) {
+    for (size_t q = 0; q < kVectors + kTaps - 1; ++q) {
       V x = hn::LoadU(d, window + q * kLanes);
       Pin(x);
       HWY_UNROLL(8)
-      for (int m = 0; m < kTaps; ++m) {
-        const int v = q - m;
-        if (v < 0 || v >= kVectors) continue;
-        for (int p = 0; p < kParts; ++p) {
-          V& sum = sums[m % kSets][v][p];
+      for (size_t m = 0; m < kTaps; ++m) {
+        if (q < m || q - m >= kVectors) continue;
+        for (size_t p = 0; p < kParts; ++p) {
+          V& sum = sums[m % kSets][q - m][p];
           sum = hn::MulAdd(x, tap[m].part[p], sum);
         }
       }
     }
   }
 
-  HWY_INLINE V Result(int v) const {
+  HWY_INLINE V Result(size_t v) const {
     V total[kParts];
-    for (int p = 0; p < kParts; ++p) {
+    for (size_t p = 0; p < kParts; ++p) {
       total[p] = sums[0][v][p];
-      for (int s = 1; s < kSets; ++s) total[p] = hn::Add(total[p], sums[s][v][p]);
+      for (size_t s = 1; s < kSets; ++s) total[p] = hn::Add(total[p], sums[s][v][p]);
     }
     if constexpr (kParts == 1) {
       return total[0];
@@ -93,15 +92,15 @@ struct FirResults {
 };
 
 // Vectors of results, and taps to a loaded vector, for which there are registers.
-template <int kParts>
+template <size_t kParts>
 struct Most {
-  static constexpr int kScale = HWY_TARGET == HWY_EMU128 ? 1 : HWY_TARGET <= HWY_AVX3 ? 4 : 2;
-  static constexpr int kVectors = 4 * kScale / kParts;
-  static constexpr int kTaps = 2 * kScale / kParts;
+  static constexpr size_t kScale = HWY_TARGET == HWY_EMU128 ? 1 : HWY_TARGET <= HWY_AVX3 ? 4 : 2;
+  static constexpr size_t kVectors = 4 * kScale / kParts;
+  static constexpr size_t kTaps = 2 * kScale / kParts;
 };
 
 // Adds the products of `count` times kTaps taps.
-template <int kTaps, int kParts, class Results, class D, class T>
+template <size_t kTaps, size_t kParts, class Results, class D, class T>
 HWY_INLINE void AddTaps(D d, Results& results, const T* HWY_RESTRICT taps,
                         const T* HWY_RESTRICT window, size_t count) {
   for (size_t k = 0; k < count * kParts; k += kParts) {
@@ -111,7 +110,7 @@ HWY_INLINE void AddTaps(D d, Results& results, const T* HWY_RESTRICT taps,
 
 // Adds the products of the taps from k on, kTaps vectors of them at a time and then those that are
 // left.
-template <int kTaps, int kParts, class Results, class D, class T>
+template <size_t kTaps, size_t kParts, class Results, class D, class T>
 HWY_INLINE void AddProducts(D d, Results& results, const T* HWY_RESTRICT taps, size_t tapsLen,
                             const T* HWY_RESTRICT window, size_t k) {
   constexpr size_t kPoints = Results::kPoints;
@@ -139,7 +138,7 @@ HWY_INLINE void AddProducts(D d, Results& results, const T* HWY_RESTRICT taps, s
 }
 
 // dst[i] = sum of taps[k] window[i + k] over k, for kVectors vectors of results.
-template <int kParts, int kVectors, int kTaps, class D, class T>
+template <size_t kParts, size_t kVectors, size_t kTaps, class D, class T>
 HWY_INLINE void FilterVectors(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
                               const T* HWY_RESTRICT window, T* HWY_RESTRICT dst) {
   using Results = FirResults<D, kParts, kVectors>;
@@ -147,12 +146,12 @@ HWY_INLINE void FilterVectors(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
   Results results;
   results.Clear(d);
   AddProducts<kTaps, kParts>(d, results, taps, tapsLen, window, 0);
-  for (int v = 0; v < kVectors; ++v) {
-    hn::StoreU(results.Result(v), d, dst + static_cast<size_t>(v) * kPoints * kParts);
+  for (size_t v = 0; v < kVectors; ++v) {
+    hn::StoreU(results.Result(v), d, dst + v * kPoints * kParts);
   }
 }
 
-template <int kParts, int kVectors, int kTaps, class D, class T>
+template <size_t kParts, size_t kVectors, size_t kTaps, class D, class T>
 HWY_INLINE size_t FilterWhole(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
                               const T* HWY_RESTRICT window, T* HWY_RESTRICT dst, size_t i,
                               size_t n) {
@@ -164,7 +163,7 @@ HWY_INLINE size_t FilterWhole(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
 }
 
 // Fewer results than a vector has, or with a full vector the last ones.
-template <int kParts, int kTaps, class D, class T>
+template <size_t kParts, size_t kTaps, class D, class T>
 HWY_INLINE void FilterLast(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
                            const T* HWY_RESTRICT window, T* HWY_RESTRICT dst, size_t i, size_t n) {
   constexpr size_t kLanes = hn::MaxLanes(D());
@@ -181,13 +180,13 @@ HWY_INLINE void FilterLast(D d, const T* HWY_RESTRICT taps, size_t tapsLen,
 
 // dst[i] = sum of taps[k] window[i + k] over k for n results: the taps are those of the filter in
 // reverse, the window has n + tapsLen - 1 points. kParts is 2 for complex values.
-template <class T, int kParts>
+template <class T, size_t kParts>
 VekStatus FirProducts(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RESTRICT window,
                       T* HWY_RESTRICT dst, size_t n) {
   const hn::ScalableTag<T> d;
-  constexpr int kVectors = Most<kParts>::kVectors;
-  constexpr int kTaps = Most<kParts>::kTaps;
-  constexpr int kFewer = kTaps < 4 ? kTaps : 4;
+  constexpr size_t kVectors = Most<kParts>::kVectors;
+  constexpr size_t kTaps = Most<kParts>::kTaps;
+  constexpr size_t kFewer = kTaps < 4 ? kTaps : 4;
   size_t i = FilterWhole<kParts, kVectors, kTaps>(d, taps, tapsLen, window, dst, 0, n);
   i = FilterWhole<kParts, (kVectors + 3) / 4, kFewer>(d, taps, tapsLen, window, dst, i, n);
   FilterLast<kParts, kFewer>(d, taps, tapsLen, window, dst, i, n);
@@ -195,7 +194,7 @@ VekStatus FirProducts(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_R
 }
 
 // The same for one result, with as many sums as the latency of a multiply-add asks for.
-template <class T, int kParts>
+template <class T, size_t kParts>
 VekStatus FirProduct(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RESTRICT window,
                      T* HWY_RESTRICT dst) {
   const hn::ScalableTag<T> d;
@@ -237,7 +236,7 @@ VekStatus FirProduct(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RE
   }
 #endif
   for (size_t s = 1; s < kSums; ++s) {
-    for (int p = 0; p < kParts; ++p) sums[0][p] = hn::Add(sums[0][p], sums[s][p]);
+    for (size_t p = 0; p < kParts; ++p) sums[0][p] = hn::Add(sums[0][p], sums[s][p]);
   }
   if constexpr (kParts == 2) {
     const V real = hn::OddEven(hn::Neg(sums[0][0]), sums[0][0]);

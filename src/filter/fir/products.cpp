@@ -14,7 +14,7 @@ namespace {
 // So few results are dot products: lanes of results would be empty.
 constexpr size_t kFewResults = 3;
 
-template <class T, int kParts>
+template <class T, size_t kParts>
 inline void sum(const T* taps, size_t tapsLen, const T* window, T* dst, size_t n) {
   if (n > kFewResults) {
     VEKS_KERNEL(FirProducts<T, kParts>)(taps, tapsLen, window, dst, n);
