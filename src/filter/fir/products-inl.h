@@ -8,6 +8,7 @@
 
 #include <hwy/highway.h>
 
+#include "core/reduce-inl.h"
 #include "veks/status.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -220,30 +221,18 @@ VekStatus FirProduct(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RE
   for (size_t s = 0; i + kLanes <= n; i += kLanes, ++s) {
     add(sums[s], hn::LoadU(d, taps + i), hn::LoadU(d, window + i));
   }
-  T rest[2] = {};
-#if HWY_TARGET <= HWY_AVX3
   if (i < n) {
-    const auto mask = hn::FirstN(d, n - i);
-    add(sums[kSums - 1], hn::MaskedLoad(mask, d, taps + i), hn::MaskedLoad(mask, d, window + i));
+    add(sums[kSums - 1], loadPartial(d, taps + i, n - i), loadPartial(d, window + i, n - i));
   }
-#else
-  for (; i < n; i += kParts) {
-    rest[0] += taps[i] * window[i];
-    if constexpr (kParts == 2) {
-      rest[0] -= taps[i + 1] * window[i + 1];
-      rest[1] += taps[i] * window[i + 1] + taps[i + 1] * window[i];
-    }
-  }
-#endif
   for (size_t s = 1; s < kSums; ++s) {
     for (size_t p = 0; p < kParts; ++p) sums[0][p] = hn::Add(sums[0][p], sums[s][p]);
   }
   if constexpr (kParts == 2) {
     const V real = hn::OddEven(hn::Neg(sums[0][0]), sums[0][0]);
-    dst[0] = hn::GetLane(hn::SumOfLanes(d, real)) + rest[0];
-    dst[1] = hn::GetLane(hn::SumOfLanes(d, sums[0][1])) + rest[1];
+    dst[0] = hn::GetLane(hn::SumOfLanes(d, real));
+    dst[1] = hn::GetLane(hn::SumOfLanes(d, sums[0][1]));
   } else {
-    dst[0] = hn::GetLane(hn::SumOfLanes(d, sums[0][0])) + rest[0];
+    dst[0] = hn::GetLane(hn::SumOfLanes(d, sums[0][0]));
   }
   return vekStsOk;
 }
