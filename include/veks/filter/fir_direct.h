@@ -46,9 +46,9 @@ extern "C" {
  * @param pDlyLineIndex its index
  * @param scaleFactor the result is multiplied by `2^-scaleFactor`
  * @return #vekStsOk; #vekErrNullPtr if a vector is null; #vekErrSize if numIters < 1;
- *         #vekErrNullPtr if pTaps is null; #vekErrFIRLen if tapsLen < 1; #vekErrNullPtr if pDlyLine or
- *         pDlyLineIndex is null; with taps of 16 bits #vekErrDlyLineIndex if the index is outside
- *         0 .. `tapsLen-1`
+ *         #vekErrNullPtr if pTaps is null; #vekErrFIRLen if tapsLen < 1; #vekErrNullPtr if pDlyLine
+ * or pDlyLineIndex is null; with taps of 16 bits #vekErrDlyLineIndex if the index is outside 0 ..
+ * `tapsLen-1`
  * @{
  */
 VEKS_API VekStatus veksFIR_Direct_32f(const Vek32f* pSrc, Vek32f* pDst, int numIters,
