@@ -8,7 +8,6 @@ namespace veks::test::fir {
 namespace {
 
 constexpr int kIntMin = std::numeric_limits<int>::min();
-constexpr int kIntMax = std::numeric_limits<int>::max();
 constexpr size_t kTaps = 5;
 
 TEST(FirStates, AreMadeOfValidArguments) {

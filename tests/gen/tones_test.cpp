@@ -53,8 +53,8 @@ TYPED_TEST(Tones, FollowTheFormula) {
 
 TYPED_TEST(Tones, AreAccurateForAnyMagnitudeAndLength) {
   using R = Real<TypeParam>;
-  const int len = 1 << 20;
   onEveryTarget([] {
+    constexpr int len = 1 << 20;
     for (double magnitude : {1.0, 7.0, 1000.0}) {
       const R rFreq = static_cast<R>(0.4321);
       R phase = 2;
