@@ -18,6 +18,7 @@ IMPORTS = {
     r"sysconf": "the size of the last cache, asked for once when the library is loaded",
     r"omp_get_\w+|GOMP_parallel|__kmpc_\w+": "threads of filters",
     r"sin|cos|sincos": "tables of transforms, the optimal Blackman window",
+    r"floor": "phases of tones, where it is no instruction of the baseline",
     r"expl": "the constant factor of Kaiser windows, once for each call",
     r"__cxa_finalize|__gmon_start__|_ITM_\w+": "start-up code of every shared library",
     r"__[at]san_\w+|__ubsan_\w+|_ZTVN10__cxxabiv1\w+": "builds with sanitizers",
