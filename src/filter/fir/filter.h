@@ -172,8 +172,8 @@ inline void filterDirectly(State* state, const Data* src, Data* dst, size_t n, i
   });
 }
 
-// A frame: tapsLen - 1 samples that it shares with the one before, and up to `step` new ones. The
-// samples of the frame from `from` on have been read already if there is no source.
+// A frame of `samples` samples: tapsLen - 1 that it shares with the one before, and the new ones. A
+// null source stands for samples that are in the thread's frame already.
 template <class T, class Data>
 inline VekStatus filterFrame(const FirFloatState<T>& state, const Data* src, size_t samples,
                              Data* dst, int thread, int scaleFactor) {

@@ -23,7 +23,7 @@ inline uint32_t highHalf(uint32_t tap) {
   return (tap + 0x8000) >> 16;
 }
 
-// Words of two halves each: `count` lists for the low halves, then as many for the high ones.
+// Lists of words of two halves each: kLists for the low halves of taps, as many for the high ones.
 template <int kLists>
 struct HalvesOfTaps {
   int32_t* low[kLists];
