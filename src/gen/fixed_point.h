@@ -45,7 +45,8 @@ inline VekStatus checkAsymmetryQ15(int asymQ15) {
 // The phase after `count` samples, rounded to the nearest valid one on the circle.
 inline int phaseAfterQ15(int freqQ15, int count, int phaseQ15) {
   const double phase = phaseAfter<double>(freqQ15 * kQ15, count, phaseQ15 * kQ15) / kQ15;
-  const int rounded = static_cast<int>(phase + 0.5);
+  const int below = static_cast<int>(phase);
+  const int rounded = phase - below < 0.5 ? below : below + 1;
   if (rounded < kPhasesQ15) return rounded;
   return kTwoPi / kQ15 - phase < phase - (kPhasesQ15 - 1) ? 0 : kPhasesQ15 - 1;
 }

@@ -36,8 +36,8 @@ Vek64f startPhase(double degrees) {
 }
 
 // From the last sample on, so that none is overwritten before it is copied.
-void spread(Vek64f* samples, int frames, int channels) {
-  for (int i = frames - 1; i >= 0; --i) {
+void spread(Vek64f* samples, ptrdiff_t frames, ptrdiff_t channels) {
+  for (ptrdiff_t i = frames - 1; i >= 0; --i) {
     std::fill_n(samples + i * channels, channels, samples[i]);
   }
 }
