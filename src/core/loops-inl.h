@@ -30,17 +30,24 @@ HWY_INLINE size_t lanesToBoundary(const T* p, size_t lanes) {
   return kGroup * ((0 - group) % (lanes / kGroup));
 }
 
-// n elements, at most two vectors of tag d: two vectors that overlap, or the same for halves. Both
-// are computed before the first store. The hint spares few elements the taken branches, which are
-// most of their time.
+// n elements, at least one vector of tag d and at most two: two vectors that overlap, both computed
+// before the first store.
+template <class D, class T, class Body>
+HWY_INLINE void produceTwo(D d, const Body& body, T* dst, size_t n) {
+  const size_t second = n - MaxLanes(D());
+  const auto first = body(d, 0);
+  const auto last = body(d, second);
+  hn::StoreU(first, d, dst);
+  hn::StoreU(last, d, dst + second);
+}
+
+// n elements, at most two vectors of tag d: two of them or of a shorter kind. The hint spares few
+// elements the taken branches, which are most of their time.
 template <size_t kGroup, class D, class T, class Body>
 HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
   constexpr size_t kLanes = MaxLanes(D());
   if (HWY_UNLIKELY(n >= kLanes)) {
-    const auto first = body(d, 0);
-    const auto last = body(d, n - kLanes);
-    hn::StoreU(first, d, dst);
-    hn::StoreU(last, d, dst + n - kLanes);
+    produceTwo(d, body, dst, n);
   } else if constexpr (kLanes > kGroup) {
     produceShort<kGroup>(hn::Half<D>(), body, dst, n);
   }
@@ -97,11 +104,18 @@ HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
 template <size_t kGroup = 1, class T, class Body>
 HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
   const hn::ScalableTag<T> d;
-  // The hints lay one and two vectors out without a taken branch: there it counts.
+  // One vector is two halves, of which fewer cross a cache line and which a following call gets
+  // back sooner. The hints lay that out without a taken branch: there it counts.
   if (HWY_LIKELY(n <= 2 * MaxLanes(d))) {
-    if (HWY_LIKELY(n >= MaxLanes(d))) return produceShort<kGroup>(d, body, dst, n);
-    if constexpr (MaxLanes(d) > kGroup) {
-      produceShort<kGroup>(hn::Half<decltype(d)>(), body, dst, n);
+    if constexpr (MaxLanes(d) == kGroup) {
+      if (n > 0) produceTwo(d, body, dst, n);
+    } else {
+      const hn::Half<decltype(d)> half;
+      if (HWY_UNLIKELY(n > MaxLanes(d))) return produceTwo(d, body, dst, n);
+      if (HWY_LIKELY(n >= MaxLanes(half))) return produceTwo(half, body, dst, n);
+      if constexpr (MaxLanes(half) > kGroup) {
+        produceShort<kGroup>(hn::Half<decltype(half)>(), body, dst, n);
+      }
     }
     return;
   }

@@ -58,17 +58,19 @@ inline VekStatus Move(const uint8_t* src, uint8_t* dst, size_t n) {
   return vekStsOk;
 }
 
-// An order of the bytes of a block: byte i of the result is byte source[i].
+// An order of the bytes of each block of a vector: byte i of a block is its byte source[i % 16].
+// For all blocks of the longest vector, so that it is an operand in memory.
 struct ByteOrder {
-  uint8_t source[16];
+  alignas(64) uint8_t source[64];
 };
 
 // Elements of kSize bytes in reverse order, in a block of kBlock bytes.
 template <size_t kSize, size_t kBlock>
 constexpr ByteOrder reversedElements() {
   ByteOrder order{};
-  for (size_t i = 0; i < kBlock; ++i) {
-    order.source[i] = static_cast<uint8_t>(kBlock - kSize - i / kSize * kSize + i % kSize);
+  for (size_t i = 0; i < 64; ++i) {
+    const size_t byte = i % 16;
+    order.source[i] = static_cast<uint8_t>(kBlock - kSize - byte / kSize * kSize + byte % kSize);
   }
   return order;
 }
@@ -77,14 +79,14 @@ constexpr ByteOrder reversedElements() {
 template <size_t kSize>
 constexpr ByteOrder reversedBytes() {
   ByteOrder order{};
-  for (size_t i = 0; i < 16; ++i) order.source[i] = static_cast<uint8_t>(i ^ (kSize - 1));
+  for (size_t i = 0; i < 64; ++i) order.source[i] = static_cast<uint8_t>(i % 16 ^ (kSize - 1));
   return order;
 }
 
 template <class D>
 HWY_INLINE hn::VFromD<D> reordered(D d, hn::VFromD<D> v, const ByteOrder& order) {
   const hn::Repartition<uint8_t, D> d8;
-  return hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(d8, v), hn::LoadDup128(d8, order.source)));
+  return hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(d8, v), hn::Load(d8, order.source)));
 }
 
 // The lanes of v in groups of kGroup, in reverse order.
@@ -112,11 +114,12 @@ struct FromTheEnd {
   }
 };
 
-// Swaps elements i .. n - 1 - i from both ends, at most two vectors of tag d.
+// Swaps elements i .. n - 1 - i from both ends, at most two vectors of tag d. One vector is swapped
+// as halves: all of it would be stored twice.
 template <size_t kGroup, class D, class T>
 HWY_INLINE void flipMiddle(D d, T* srcDst, size_t i, size_t n) {
   constexpr size_t kLanes = MaxLanes(D());
-  if (HWY_LIKELY(n - 2 * i >= kLanes)) {
+  if (HWY_LIKELY(n - 2 * i > kLanes || (kLanes == kGroup && n - 2 * i == kLanes))) {
     T* const low = srcDst + i;
     T* const high = srcDst + n - i - kLanes;
     if constexpr (kLanes == 2 * kGroup) {
@@ -148,6 +151,28 @@ struct FlipTypes {
   using Lane = hwy::UnsignedFromSize<sizeof(T) / kGroup>;
 };
 
+// Short vectors of one or two bytes an element, blocks of 16 bytes from either end. These take no
+// instruction across blocks, which counts where a following call waits for them.
+template <class T>
+HWY_INLINE bool isFlippedInBlocks(size_t len) {
+  return sizeof(T) <= 2 && HWY_LIKELY(len - 32 / sizeof(T) <= 32 / sizeof(T));
+}
+
+template <class T>
+HWY_INLINE VekStatus flipBlocks(const T* src, T* dst, size_t n) {
+  const hn::Full128<T> d;
+  constexpr size_t kBlock = 16 / sizeof(T);
+  const auto first = hn::LoadU(d, src);
+  const auto second = hn::LoadU(d, src + kBlock);
+  const auto third = hn::LoadU(d, src + n - 2 * kBlock);
+  const auto last = hn::LoadU(d, src + n - kBlock);
+  hn::StoreU(reversed<1>(d, last), d, dst);
+  hn::StoreU(reversed<1>(d, third), d, dst + kBlock);
+  hn::StoreU(reversed<1>(d, second), d, dst + n - 2 * kBlock);
+  hn::StoreU(reversed<1>(d, first), d, dst + n - kBlock);
+  return vekStsOk;
+}
+
 // srcDst[i] = srcDst[len - 1 - i]
 template <class T>
 VekStatus FlipInPlace(T* srcDst, size_t len) {
@@ -157,6 +182,9 @@ VekStatus FlipInPlace(T* srcDst, size_t len) {
   constexpr size_t kLanes = MaxLanes(d);
   Lane* const lanes = reinterpret_cast<Lane*>(srcDst);
   const size_t n = kGroup * len;
+  if constexpr (sizeof(T) <= 2) {
+    if (isFlippedInBlocks<T>(len)) return flipBlocks(srcDst, srcDst, len);
+  }
   size_t i = 0;
   for (; HWY_UNLIKELY(n - 2 * i > 2 * kLanes); i += kLanes) {
     const auto low = hn::LoadU(d, lanes + i);
@@ -173,6 +201,9 @@ template <class T>
 VekStatus Flip(const T* src, T* dst, size_t len) {
   using Lane = typename FlipTypes<T>::Lane;
   constexpr size_t kGroup = FlipTypes<T>::kGroup;
+  if constexpr (sizeof(T) <= 2) {
+    if (isFlippedInBlocks<T>(len)) return flipBlocks(src, dst, len);
+  }
   if (HWY_UNLIKELY(src == dst)) return FlipInPlace<T>(dst, len);
   const Lane* const end = reinterpret_cast<const Lane*>(src + len);
   produce<kGroup>(FromTheEnd<kGroup, Lane>{end}, reinterpret_cast<Lane*>(dst), kGroup * len, false);

@@ -22,10 +22,31 @@ struct Sqr {};
 struct MulComplex {};
 struct SqrComplex {};
 
-struct And {};
-struct Or {};
-struct Xor {};
-struct Not {};
+// These are functors too, for what the compiler knows as vectors.
+struct And {
+  template <class V>
+  V operator()(V a, V b) const {
+    return a & b;
+  }
+};
+struct Or {
+  template <class V>
+  V operator()(V a, V b) const {
+    return a | b;
+  }
+};
+struct Xor {
+  template <class V>
+  V operator()(V a, V b) const {
+    return a ^ b;
+  }
+};
+struct Not {
+  template <class V>
+  V operator()(V a) const {
+    return ~a;
+  }
+};
 
 struct SwapBytes {};
 
