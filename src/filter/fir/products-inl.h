@@ -9,6 +9,7 @@
 #include <hwy/highway.h>
 
 #include "core/reduce-inl.h"
+#include "filter/fir/phases-inl.h"
 #include "veks/status.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -188,7 +189,13 @@ VekStatus FirProducts(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_R
   constexpr size_t kVectors = Most<kParts>::kVectors;
   constexpr size_t kTaps = Most<kParts>::kTaps;
   constexpr size_t kFewer = kTaps < 4 ? kTaps : 4;
-  size_t i = FilterWhole<kParts, kVectors, kTaps>(d, taps, tapsLen, window, dst, 0, n);
+  size_t i = 0;
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (kParts == 1) {
+    if (AreForPhases(d, tapsLen)) i = FilterInPhases(d, taps, tapsLen, window, dst, n);
+  }
+#endif
+  i = FilterWhole<kParts, kVectors, kTaps>(d, taps, tapsLen, window, dst, i, n);
   i = FilterWhole<kParts, (kVectors + 3) / 4, kFewer>(d, taps, tapsLen, window, dst, i, n);
   FilterLast<kParts, kFewer>(d, taps, tapsLen, window, dst, i, n);
   return vekStsOk;
