@@ -11,32 +11,11 @@
 #include "core/loops-inl.h"
 #include "stats/networks-inl.h"
 #include "stats/partition-inl.h"
+#include "stats/runs-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
-
-// Writes runs of equal elements one after the other. Most runs are short: a vector is stored
-// whatever the length of the run, where the destination has room for it.
-template <class T>
-struct RunWriter {
-  T* dst;
-  T* end;
-
-  HWY_INLINE void write(T value, size_t count) {
-    const hn::ScalableTag<T> d;
-    constexpr size_t kLanes = MaxLanes(d);
-    const auto v = hn::Set(d, value);
-    T* const next = dst + count;
-    if (HWY_LIKELY(static_cast<size_t>(end - dst) >= count + kLanes)) {
-      hn::StoreU(v, d, dst);
-      for (T* p = dst + kLanes; p < next; p += kLanes) hn::StoreU(v, d, p);
-    } else {
-      for (T* p = dst; p < next; ++p) *p = value;
-    }
-    dst = next;
-  }
-};
 
 // Few elements are sorted as 16-bit ones: counters for all values would take longer.
 template <class Order>
@@ -47,24 +26,34 @@ HWY_NOINLINE void sortFew(uint8_t* p, size_t n) {
   for (size_t i = 0; i < n; ++i) p[i] = static_cast<uint8_t>(wide[i]);
 }
 
-template <class Order>
-HWY_NOINLINE void countingSort(uint8_t* p, size_t n) {
-  // Neighbours go to tables in turn: a counter that is incremented twice in a row waits for itself.
-  constexpr size_t kTables = 4;
-  uint32_t counts[kTables][256] = {};
+// Adds the counts of at most kMostCounted elements. Neighbours go to tables in turn: a counter that
+// is incremented twice in a row waits for itself.
+constexpr size_t kMostCounted = 8 * 65535;
+HWY_NOINLINE void countBytes(const uint8_t* p, size_t n, uint32_t* totals) {
+  constexpr size_t kTables = 8;
+  uint16_t counts[kTables][256] = {};
   size_t i = 0;
   for (; i + 8 <= n; i += 8) {
     uint64_t eight;
     std::memcpy(&eight, p + i, 8);
-    for (size_t k = 0; k < 8; ++k) ++counts[k % kTables][eight >> (8 * k) & 255];
+    for (size_t k = 0; k < 8; ++k) ++counts[k][eight >> (8 * k) & 255];
   }
-  for (; i < n; ++i) ++counts[0][p[i]];
+  for (; i < n; ++i) ++totals[p[i]];
+  for (size_t k = 0; k < kTables; ++k) {
+    for (size_t value = 0; value < 256; ++value) totals[value] += counts[k][value];
+  }
+}
+
+template <class Order>
+HWY_NOINLINE void countingSort(uint8_t* p, size_t n) {
+  uint32_t counts[256] = {};
+  for (size_t i = 0; i < n; i += kMostCounted) {
+    countBytes(p + i, n - i < kMostCounted ? n - i : kMostCounted, counts);
+  }
   RunWriter<uint8_t> writer{p, p + n};
   for (size_t k = 0; k < 256; ++k) {
     const size_t value = Order::kSign > 0 ? k : 255 - k;
-    const size_t count =
-        size_t{counts[0][value]} + counts[1][value] + counts[2][value] + counts[3][value];
-    writer.write(static_cast<uint8_t>(value), count);
+    writer.write(static_cast<uint8_t>(value), counts[value]);
   }
 }
 

@@ -98,7 +98,7 @@ HWY_INLINE Moments momentsInSingle(const float* src, size_t n, float shift) {
   for (size_t i = 0; i < n; i += kDeviationBlock) {
     const size_t count = n - i < kDeviationBlock ? n - i : kDeviationBlock;
     const size_t whole = count / kLanes * kLanes;
-    auto sum = reduce<4>(deviations, whole, src + i);
+    auto sum = reduce<4>(deviations, {whole, n - i}, src + i);
     if (whole < count) addLast(deviations, sum, src + i + whole, count - whole);
     const Moments block = foldMoments(deviations, sum);
     total = {total.values + block.values, total.squares + block.squares};

@@ -56,9 +56,9 @@ struct Magnitudes {
   }
 };
 
-HWY_INLINE Extent extentOf(const float* src, size_t n) {
+HWY_INLINE Extent extentOf(const float* src, Piece piece) {
   const Magnitudes magnitudes;
-  const Magnitudes::Sum found = reduce<4>(magnitudes, n, src);
+  const Magnitudes::Sum found = reduce<4>(magnitudes, piece, src);
   const int32_t greatest = hn::GetLane(hn::MaxOfLanes(magnitudes.di, found.greatest)) + 1;
   const uint32_t least = hn::GetLane(hn::MinOfLanes(magnitudes.du, found.least)) + 1;
   // Denormal numbers have the bits of those with exponent 1.
@@ -183,7 +183,7 @@ HWY_INLINE double exactSum(const float* src, size_t n, int digits) {
   double unbounded = 0;
   for (size_t i = 0; i < n; i += kExactBlock) {
     const size_t count = n - i < kExactBlock ? n - i : kExactBlock;
-    if (i > 0) extent = extentOf(src + i, count);
+    if (i > 0) extent = extentOf(src + i, {count, n - i});
     addBlock(src + i, count, extent, total, unbounded);
   }
   // Of NaN there is one, whatever the order.

@@ -47,12 +47,14 @@ HWY_INLINE hn::TFromD<D> acrossLanes(D /*d*/, V v, const Combine& combine) {
   }
 }
 
-// The accumulator of n elements, at least one vector of tag d, kWays vectors side by side. The
-// first and the last vector overlap those that are aligned in the first source.
+// The accumulator of a piece of at least one vector of tag d, kWays vectors side by side. The first
+// and the last vector overlap those that are aligned in the first source.
 template <size_t kWays, class D, class Fold, class T, class... Others>
-HWY_INLINE auto foldVectors(D d, const Fold& fold, size_t n, const T* src,
+HWY_INLINE auto foldVectors(D d, const Fold& fold, Piece piece, const T* src,
                             const Others*... others) {
   constexpr size_t kLanes = MaxLanes(D());
+  const size_t n = piece.count;
+  const size_t far = farFromEnd<T>(piece);
   const auto add = [&](auto& sum, size_t i) HWY_ATTR {
     fold.add(d, sum, hn::LoadU(d, src + i), hn::LoadU(d, others + i)...);
   };
@@ -63,6 +65,10 @@ HWY_INLINE auto foldVectors(D d, const Fold& fold, size_t n, const T* src,
   add(sums[kWays - 1], n - kLanes);
   size_t i = lanesToBoundary<1>(src, kLanes);
   for (; i + kWays * kLanes <= n; i += kWays * kLanes) {
+    if (HWY_UNLIKELY(i < far)) {
+      prefetchPage(src + i);
+      (prefetchPage(others + i), ...);
+    }
     VEKS_UNROLL_WAYS
     for (size_t k = 0; k < kWays; ++k) add(sums[k], i + k * kLanes);
   }

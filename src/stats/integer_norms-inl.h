@@ -107,7 +107,7 @@ HWY_INLINE uint64_t exactNorm(L1 /*norm*/, size_t n, const T*... src) {
   const MagnitudeSum reduction = {};
   uint64_t total = 0;
   for (size_t i = 0; i < n; i += kBlock) {
-    const auto sum = reduce<4>(reduction, std::min(kBlock, n - i), (src + i)...);
+    const auto sum = reduce<4>(reduction, {std::min(kBlock, n - i), n - i}, (src + i)...);
     const hn::ScalableTag<uint32_t> du;
     total += 0 - sumAcrossLanes(du, hn::BitCast(du, sum));
   }

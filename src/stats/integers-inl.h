@@ -99,10 +99,10 @@ struct SplitSums {
 template <size_t kWays, size_t kBlock, class Reduction, class... T>
 HWY_INLINE auto totalOf(const Reduction& reduction, size_t n, const T*... src) {
   size_t count = n < kBlock ? n : kBlock;
-  auto total = reduction.total(reduce<kWays>(reduction, count, src...));
+  auto total = reduction.total(reduce<kWays>(reduction, {count, n}, src...));
   for (size_t i = count; i < n; i += count) {
     count = n - i < kBlock ? n - i : kBlock;
-    total = total + reduction.total(reduce<kWays>(reduction, count, (src + i)...));
+    total = total + reduction.total(reduce<kWays>(reduction, {count, n - i}, (src + i)...));
   }
   return total;
 }

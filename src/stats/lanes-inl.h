@@ -99,7 +99,8 @@ HWY_INLINE auto reducePairwise(const Reduction& reduction, size_t n, const T*...
   Sum pending[8 * sizeof(size_t)];
   size_t block = 0;
   for (size_t i = 0; i < n; i += kBlock, ++block) {
-    Sum sum = reduce<kWays>(reduction, n - i < kBlock ? n - i : kBlock, (src + i)...);
+    const Piece piece = {n - i < kBlock ? n - i : kBlock, n - i};
+    Sum sum = reduce<kWays>(reduction, piece, (src + i)...);
     size_t level = 0;
     for (; (block >> level) % 2 == 1; ++level) reduction.merge(sum, pending[level]);
     pending[level] = sum;

@@ -14,10 +14,12 @@
 
 #include "core/power_of_two.h"
 #include "core/reduce-inl.h"
+#include "stats/complex_magnitudes-inl.h"
 #include "stats/integer_norms-inl.h"
 #include "stats/is_nan.h"
 #include "stats/magnitudes-inl.h"
 #include "stats/norm_tags.h"
+#include "stats/terms-inl.h"
 #include "vector/limit-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -43,59 +45,6 @@ template <class T>
 inline constexpr bool kIsComplex = !std::is_same_v<Part<T>, T>;
 template <class T>
 using NormType = std::conditional_t<std::is_integral_v<T>, float, Part<T>>;
-
-template <class V>
-HWY_INLINE V difference(V v) {
-  return v;
-}
-template <class V>
-HWY_INLINE V difference(V a, V b) {
-  return hn::Sub(a, b);
-}
-template <class V>
-HWY_INLINE Parts<V> difference(Parts<V> z) {
-  return z;
-}
-template <class V>
-HWY_INLINE Parts<V> difference(Parts<V> a, Parts<V> b) {
-  return {hn::Sub(a.re, b.re), hn::Sub(a.im, b.im)};
-}
-
-// What is summed up, or what the greatest is wanted of.
-struct SquareTerm {
-  template <class D, class V>
-  HWY_INLINE V operator()(D /*d*/, V v) const {
-    return hn::Mul(v, v);
-  }
-  template <class D, class V>
-  HWY_INLINE V operator()(D /*d*/, Parts<V> z) const {
-    return hn::Add(hn::Mul(z.re, z.re), hn::Mul(z.im, z.im));
-  }
-};
-
-struct MagnitudeTerm {
-  template <class D, class V>
-  HWY_INLINE V operator()(D /*d*/, V v) const {
-    return hn::Abs(v);
-  }
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, Parts<V> z) const {
-    return hn::Sqrt(SquareTerm()(d, z));
-  }
-};
-
-// The larger part; elements with a NaN have none.
-struct LargerPartTerm {
-  template <class D, class V>
-  HWY_INLINE V operator()(D /*d*/, V v) const {
-    return hn::Abs(v);
-  }
-  template <class D, class V>
-  HWY_INLINE V operator()(D /*d*/, Parts<V> z) const {
-    const auto isNumber = hn::And(hn::Eq(z.re, z.re), hn::Eq(z.im, z.im));
-    return hn::IfThenElseZero(isNumber, atLeast(hn::Abs(z.re), hn::Abs(z.im)));
-  }
-};
 
 template <class Term, class T>
 struct ScaledTerm {
@@ -151,6 +100,17 @@ struct GreatestOf {
 constexpr size_t kColumnBytes = 512;
 constexpr size_t kFewColumnBytes = 64;
 
+template <size_t kWays, class Reduction, class... T>
+HWY_INLINE auto sumOfPiece(const Reduction& reduction, Piece piece, const T*... src) {
+#if HWY_TARGET == HWY_AVX3
+  constexpr bool kIsComplexSingle = (std::is_same_v<T, Vek32fc> && ...);
+  if constexpr (std::is_same_v<decltype(Reduction::term), MagnitudeTerm> && kIsComplexSingle) {
+    return reduceMagnitudes<kWays>(reduction.d, reduction, piece, src...);
+  }
+#endif
+  return reduce<kWays>(reduction, piece, src...);
+}
+
 // Blocks are short enough for the precision of the elements; their sums are added in double.
 template <size_t kBytes, class Term, class T, class... Others>
 HWY_INLINE double sumOf(const Term& term, size_t n, const T* src, const Others*... others) {
@@ -161,8 +121,9 @@ HWY_INLINE double sumOf(const Term& term, size_t n, const T* src, const Others*.
   double total = 0;
   for (size_t i = 0;; i += kBlock) {
     const size_t count = std::min(kBlock, n - i);
+    const Piece piece = {count, n - i};
     const Part<T> sum =
-        sumAcrossLanes(d, reduce<kWays>(reduction, count, src + i, (others + i)...));
+        sumAcrossLanes(d, sumOfPiece<kWays>(reduction, piece, src + i, (others + i)...));
     if (n <= kBlock) return static_cast<double>(sum);
     total += static_cast<double>(sum);
     if (i + count == n) return total;

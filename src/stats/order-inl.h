@@ -9,7 +9,9 @@
 #include <hwy/highway.h>
 
 #include <limits>
+#include <type_traits>
 
+#include "core/loops-inl.h"
 #include "core/targets.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -98,22 +100,53 @@ struct Descending {
   }
 };
 
-// Gives up soon after the first element that is before its predecessor.
+// Never of NaN.
+template <class Order, class T, class V>
+HWY_INLINE auto areInOrder(V a, V b) {
+  if constexpr (!std::is_floating_point_v<T>) {
+    return hn::Not(Order::before(b, a));
+  } else if constexpr (Order::kSign > 0) {
+    return hn::Le(a, b);
+  } else {
+    return hn::Le(b, a);
+  }
+}
+
+// The number of elements at the start that equal the first one, or some less: up to a boundary.
+template <class T>
+HWY_INLINE size_t countEqual(const T* p, size_t n) {
+  const hn::ScalableTag<T> d;
+  constexpr size_t kLanes = MaxLanes(d);
+  const auto wanted = hn::Set(d, p[0]);
+  const auto isEqual = [d, p, wanted](size_t at) { return hn::Eq(hn::LoadU(d, p + at), wanted); };
+  if (n < kLanes || !hn::AllTrue(d, isEqual(0))) return 0;
+  size_t i = lanesToBoundary<1>(p, kLanes);
+  for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
+    const auto first = hn::And(isEqual(i), isEqual(i + kLanes));
+    const auto second = hn::And(isEqual(i + 2 * kLanes), isEqual(i + 3 * kLanes));
+    if (!hn::AllTrue(d, hn::And(first, second))) break;
+  }
+  return i;
+}
+
+// Whether no element is before its predecessor. Gives up soon after the first one that is, and at
+// a NaN.
 template <class Order, class T>
 HWY_NOINLINE bool isSorted(const T* p, size_t n) {
   const hn::ScalableTag<T> d;
   constexpr size_t kLanes = MaxLanes(d);
-  const auto anyBefore = [d, p](size_t at) {
-    return Order::before(hn::LoadU(d, p + at), hn::LoadU(d, p + at - 1));
+  const auto follow = [d, p](size_t at) {
+    return areInOrder<Order, T>(hn::LoadU(d, p + at - 1), hn::LoadU(d, p + at));
   };
-  size_t i = 1;
+  const size_t equal = countEqual(p, n);
+  size_t i = HWY_MAX(equal, size_t{1});
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
-    const auto first = hn::Or(anyBefore(i), anyBefore(i + kLanes));
-    const auto second = hn::Or(anyBefore(i + 2 * kLanes), anyBefore(i + 3 * kLanes));
-    if (!hn::AllFalse(d, hn::Or(first, second))) return false;
+    const auto first = hn::And(follow(i), follow(i + kLanes));
+    const auto second = hn::And(follow(i + 2 * kLanes), follow(i + 3 * kLanes));
+    if (!hn::AllTrue(d, hn::And(first, second))) return false;
   }
   for (; i < n; ++i) {
-    if (Order::isBefore(p[i], p[i - 1])) return false;
+    if (!(p[i] == p[i - 1] || Order::isBefore(p[i - 1], p[i]))) return false;
   }
   return true;
 }

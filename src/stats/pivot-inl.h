@@ -58,23 +58,39 @@ HWY_INLINE T quantileOfFew(const T* p, size_t n, unsigned seed, size_t sixteenth
 }
 
 template <class Order, class T>
-HWY_NOINLINE T medianOfMany(const T* p, size_t n, unsigned seed) {
-  constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
-  constexpr int kRegBits = HWY_MIN(logarithm(64 / kLanes), kBlockBits);
-  constexpr size_t kSize = kLanes << kRegBits;
-  HWY_ALIGN T sample[kSize];
-  takeSample<kSize>(p, n, seed, sample);
-  sortVectors<Order, kRegBits>(sample);
-  return sample[kSize / 2];
+struct SortedSample {
+  static constexpr size_t kLanes = MaxLanes(hn::ScalableTag<T>());
+  static constexpr int kRegBits = HWY_MIN(logarithm(64 / kLanes), kBlockBits);
+  static constexpr size_t kSize = kLanes << kRegBits;
+  HWY_ALIGN T elements[kSize];
+
+  HWY_INLINE SortedSample(const T* p, size_t n, unsigned seed) {
+    takeSample<kSize>(p, n, seed, elements);
+    sortVectors<Order, kRegBits>(elements);
+  }
+};
+
+// `isFrequent` tells that a sample of many elements has it more than once.
+template <class T>
+struct Pivot {
+  T value;
+  bool isFrequent;
+};
+
+template <class Order, class T>
+HWY_NOINLINE Pivot<T> medianOfMany(const T* p, size_t n, unsigned seed) {
+  const SortedSample<Order, T> sample(p, n, seed);
+  const T* const median = sample.elements + sample.kSize / 2;
+  return {*median, *median == median[-1] || *median == median[1]};
 }
 
 // A pivot that divides a segment of n elements so that about that many sixteenths come before it,
 // or one half, if there are many. Another seed gives another sample.
 template <class Order, class T>
-HWY_NOINLINE T choosePivot(const T* p, size_t n, unsigned seed, size_t sixteenths) {
+HWY_NOINLINE Pivot<T> choosePivot(const T* p, size_t n, unsigned seed, size_t sixteenths) {
   constexpr size_t kMany = size_t{1} << 15;
   if (n >= kMany) return medianOfMany<Order>(p, n, seed);
-  return quantileOfFew<Order>(p, n, seed, sixteenths);
+  return {quantileOfFew<Order>(p, n, seed, sixteenths), false};
 }
 
 }  // namespace HWY_NAMESPACE

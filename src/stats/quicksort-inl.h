@@ -10,6 +10,7 @@
 #define VEKS_STATS_QUICKSORT_INL_H
 #endif
 
+#include "stats/few_values-inl.h"
 #include "stats/networks-inl.h"
 #include "stats/partition-inl.h"
 #include "stats/pivot-inl.h"
@@ -89,7 +90,15 @@ void quicksort(T* p, size_t n, int divisions) {
     }
     --segment.divisions;
     const unsigned seed = static_cast<unsigned>(segment.divisions);
-    const T pivot = choosePivot<Order>(p + start, length, seed, length < 2 * kBlock ? 11 : 8);
+    const Pivot<T> chosen =
+        choosePivot<Order>(p + start, length, seed, length < 2 * kBlock ? 11 : 8);
+    if (chosen.isFrequent && sortFewValues<Order>(p + start, length, seed)) {
+      start = segment.end;
+      sorted = start;
+      --top;
+      continue;
+    }
+    const T pivot = chosen.value;
     if (segment.hasBound && !Order::isBefore(segment.bound, pivot)) {
       // Elements that equal the bound are first and in order. They may be all.
       start += isSorted<Order>(p + start, length)

@@ -21,22 +21,21 @@ template <class T>
 HWY_INLINE bool anyNan(const T* p, size_t n) {
   const hn::ScalableTag<T> d;
   constexpr size_t kLanes = MaxLanes(d);
-  auto found = hn::Zero(d);
-  size_t i = 0;
-  const auto take = [&](size_t at) {
-    const auto v = hn::LoadU(d, p + at);
-    found = hn::Or(found, hn::VecFromMask(d, hn::IsNaN(v)));
-  };
-  for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
-    take(i);
-    take(i + kLanes);
-    take(i + 2 * kLanes);
-    take(i + 3 * kLanes);
+  if (n < kLanes) {
+    bool any = false;
+    for (size_t i = 0; i < n; ++i) any |= p[i] != p[i];
+    return any;
   }
-  for (; i + kLanes <= n; i += kLanes) take(i);
-  bool any = !hn::AllFalse(d, hn::MaskFromVec(found));
-  for (; i < n; ++i) any |= p[i] != p[i];
-  return any;
+  const auto nanAt = [d, p](size_t at) { return hn::IsNaN(hn::LoadU(d, p + at)); };
+  auto any = hn::Or(nanAt(0), nanAt(n - kLanes));
+  size_t i = lanesToBoundary<1>(p, kLanes);
+  for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
+    const auto first = hn::Or(nanAt(i), nanAt(i + kLanes));
+    const auto second = hn::Or(nanAt(i + 2 * kLanes), nanAt(i + 3 * kLanes));
+    any = hn::Or(any, hn::Or(first, second));
+  }
+  for (; i + kLanes <= n; i += kLanes) any = hn::Or(any, nanAt(i));
+  return !hn::AllFalse(d, any);
 }
 
 // Brings all NaN to the end and returns the number of other elements. The places of the NaN do not
@@ -80,23 +79,31 @@ HWY_NOINLINE void orderZeros(T* p, size_t n) {
   for (size_t i = middle; i < last; ++i) p[i] = Order::kSign > 0 ? T{0} : T(-0.0);
 }
 
-template <class Order, class T>
-VekStatus sort(T* p, size_t n) {
-  if constexpr (std::is_floating_point_v<T>) n = putNansLast(p, n);
-  if constexpr (sizeof(T) == 1) {
-    if (n <= blockLength<int16_t>()) {
-      sortFew<Order>(p, n);
-    } else {
-      countingSort<Order>(p, n);
-    }
-  } else if (n <= blockLength<T>()) {
+template <class Order>
+VekStatus sort(uint8_t* p, size_t n) {
+  if (n <= blockLength<int16_t>()) {
+    sortFew<Order>(p, n);
+  } else {
+    countingSort<Order>(p, n);
+  }
+  return vekStsOk;
+}
+
+template <class Order>
+VekStatus sort(int16_t* p, size_t n) {
+  if (n <= blockLength<int16_t>()) {
     sortShort<Order>(p, n);
   } else if (!isSorted<Order>(p, n)) {
-    if constexpr (sizeof(T) == 2) {
-      divideAndCount<Order>(p, n);
-    } else {
-      quicksort<Order>(p, n, divisionsFor<T>(n));
-    }
+    divideAndCount<Order>(p, n);
+  }
+  return vekStsOk;
+}
+
+template <class Order, class T>
+VekStatus sort(T* p, size_t n) {
+  if (n <= blockLength<T>() || !isSorted<Order>(p, n)) {
+    if constexpr (std::is_floating_point_v<T>) n = putNansLast(p, n);
+    quicksort<Order>(p, n, divisionsFor<T>(n));
   }
   if constexpr (std::is_floating_point_v<T>) orderZeros<Order>(p, n);
   return vekStsOk;

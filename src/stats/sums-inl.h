@@ -27,7 +27,7 @@ HWY_INLINE auto sumInBlocks(const float* src, size_t n) {
   const LaneSums<float> sums;
   hn::Vec<hn::ScalableTag<double>> total = hn::Zero(hn::ScalableTag<double>());
   for (size_t i = 0; i < n; i += kBlock) {
-    const auto block = reduce<8>(sums, n - i < kBlock ? n - i : kBlock, src + i);
+    const auto block = reduce<8>(sums, {n - i < kBlock ? n - i : kBlock, n - i}, src + i);
     total = hn::Add(total, foldToDoubles(sums.d, block));
   }
   return total;

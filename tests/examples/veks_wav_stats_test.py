@@ -1,5 +1,6 @@
 """Tests of veks-wav stats against figures computed here."""
 
+import collections
 import math
 import random
 import re
@@ -14,7 +15,9 @@ NUMBER = r"(-?(?:inf|\d+\.\d+))"
 CHANNEL = re.compile(
     rf"Channel (\d+)\n  Peak:         {NUMBER} \({NUMBER} dBFS\) at frame (\d+) \({NUMBER} s\)\n"
     rf"  RMS:          {NUMBER} \({NUMBER} dBFS\)\n  Crest factor: (none|{NUMBER})\n"
-    rf"  DC offset:    {NUMBER}\n  Median:       {NUMBER}\n  Quartiles:    {NUMBER} to {NUMBER}\n")
+    rf"  DC offset:    {NUMBER}\n  Median:       {NUMBER}\n  Quartiles:    {NUMBER} to {NUMBER}\n"
+    rf"  Levels:      ((?: +(?:from|below) -?\d+ dBFS: \d+ \(\d+\.\d\d %\)\n)+)")
+LEVEL = re.compile(r" +(from|below) (-?\d+) dBFS: (\d+) \((\d+\.\d\d) %\)\n")
 
 
 def uneven_sound(kind, channels, length):
@@ -30,6 +33,15 @@ def uneven_sound(kind, channels, length):
 
 def decibels(amplitude):
     return 20 * math.log10(amplitude) if amplitude > 0 else -math.inf
+
+
+def levels_of(values):
+    """How many there are of each level, in the words of the program."""
+    counts = collections.Counter()
+    for value in values:
+        steps = [step for step in range(0, -91, -10) if abs(value) >= 10 ** (step / 20)]
+        counts[("from", steps[0]) if steps else ("below", -90)] += 1
+    return counts
 
 
 class StatsTest(ProgramTest):
@@ -60,6 +72,23 @@ class StatsTest(ProgramTest):
                 self.assertAlmostEqual(float(match[8]), abs(peak) / rms, delta=0.006)
             else:
                 self.assertEqual(match[8], "none")
+
+            levels = {(word, int(level)): int(count)
+                      for word, level, count, _ in LEVEL.findall(match[14])}
+            self.assertEqual(levels, levels_of(values))
+            for _, _, count, percent in LEVEL.findall(match[14]):
+                self.assertAlmostEqual(float(percent), 100 * int(count) / len(values), delta=0.006)
+
+    def test_levels(self):
+        frames = [(32767,), (-32768,), (-10363,), (10362,), (3277,), (1,), (0,), (0,)]
+        self.write("in.wav", Sound("pcm16", 1, frames))
+        lines = self.succeed("stats", "in.wav").splitlines()[-4:]
+        self.assertEqual(lines, [
+            "  Levels:       from 0 dBFS: 1 (12.50 %)",
+            "                from -10 dBFS: 2 (25.00 %)",
+            "                from -20 dBFS: 2 (25.00 %)",
+            "                below -90 dBFS: 3 (37.50 %)",
+        ])
 
     def test_all_encodings(self):
         for kind in KINDS:

@@ -316,6 +316,41 @@ TEST(Norms, OfDoubles) {
   checkNorms(k64fc, exponents);
 }
 
+// One magnitude and zeros: the root is that of the C library.
+TEST(Norms, RootsAreRoundedOnce) {
+  std::mt19937_64 random(1);
+  std::vector<Vek32fc> elements(20000);
+  for (Vek32fc& z : elements) {
+    const int exponent = static_cast<int>(random() % 80) - 64;
+    z.re = std::ldexp(static_cast<float>(random() % (1 << 24)), exponent);
+    z.im = std::ldexp(static_cast<float>(random() % (1 << 24)), exponent);
+  }
+  onEveryTarget([&] {
+    std::vector<Vek32fc> src(64);
+    for (size_t i = 0; i < elements.size(); ++i) {
+      const Vek32fc z = elements[i];
+      src[i % src.size()] = z;
+      Vek32f value = -1;
+      ASSERT_EQ(veksNorm_L1_32fc32f(src.data(), static_cast<int>(src.size()), &value), vekStsOk);
+      ASSERT_EQ(value, std::sqrt(z.re * z.re + z.im * z.im)) << i;
+      src[i % src.size()] = {};
+    }
+  });
+}
+
+// Squares of some are denormal, of others large.
+TEST(Norms, SmallAmongLarge) {
+  std::vector<Vek32fc> src = values<Vek32fc, Vek32f>(10000, 20);
+  for (size_t i = 0; i < src.size(); ++i) {
+    const int exponent = -static_cast<int>(i * i % 97);
+    src[i] = {std::ldexp(src[i].re, exponent), std::ldexp(src[i].im, exponent)};
+  }
+  for (const auto& norm : k32fc) {
+    ASSERT_NO_FATAL_FAILURE(norm.check(src));
+    ASSERT_NO_FATAL_FAILURE(checkSameEverywhere(norm, src, 3));
+  }
+}
+
 // A NaN, an infinity or both in one of the parts at every position.
 template <class T, class R>
 void checkSpecialValues(const FloatNorms<T, R>& norms) {

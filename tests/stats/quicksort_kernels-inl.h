@@ -30,7 +30,7 @@ template <class T>
 VekStatus CountDivisions(T* p, size_t n, int* divisions) {
   *divisions = 0;
   for (; n > blockLength<T>() && *divisions < 1000; ++*divisions) {
-    const T pivot = choosePivot<Ascending>(p, n, static_cast<unsigned>(*divisions), 8);
+    const T pivot = choosePivot<Ascending>(p, n, static_cast<unsigned>(*divisions), 8).value;
     const size_t count = partition(p, n, Before<Ascending, T>{pivot});
     p += count < n - count ? count : 0;
     n = count < n - count ? n - count : count;

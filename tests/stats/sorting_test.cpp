@@ -124,6 +124,46 @@ TEST(Sort, MillionElements) {
   onEveryTarget([&] { ASSERT_NO_FATAL_FAILURE(check(veksSortAscend_32f_I, true, elements)); });
 }
 
+// With one element more, which is found last, before them and among them.
+template <class T>
+void checkFewValues(Sort<T> ascend, Sort<T> descend) {
+  onEveryTarget([=] {
+    for (const size_t n : {size_t{33000}, size_t{100003}}) {
+      std::vector<std::vector<T>> all = patternsOfEquals<T>(n);
+      for (const T last : {T(3), static_cast<T>(-1), T(100)}) {
+        all.push_back(fromRule<T>(n, [](size_t i) { return i * i % 11 + i % 3; }));
+        all.back().back() = last;
+      }
+      if constexpr (std::is_floating_point_v<T>) {
+        all.push_back(specialValues<T>(n));
+        all.push_back(fromRule<T>(n, [](size_t i) { return i % 4; }));
+        all.back()[n - 9] = T(-0.0);
+      }
+      for (const std::vector<T>& elements : all) {
+        ASSERT_NO_FATAL_FAILURE(check(ascend, true, elements)) << n;
+        ASSERT_NO_FATAL_FAILURE(check(descend, false, elements)) << n;
+      }
+    }
+  });
+}
+
+TEST(Sort, FewValuesOfManyElements) {
+  checkFewValues(veksSortAscend_8u_I, veksSortDescend_8u_I);
+  checkFewValues(veksSortAscend_32s_I, veksSortDescend_32s_I);
+  checkFewValues(veksSortAscend_32f_I, veksSortDescend_32f_I);
+  checkFewValues(veksSortAscend_64f_I, veksSortDescend_64f_I);
+}
+
+// More than the counters of bytes take in at once.
+TEST(Sort, ManyBytes) {
+  const std::vector<Vek8u> elements = randomBits<Vek8u>(1100003);
+  const std::vector<Vek8u> equal(1100003, 7);
+  onEveryTarget([&] {
+    ASSERT_NO_FATAL_FAILURE(check(veksSortAscend_8u_I, true, elements));
+    ASSERT_NO_FATAL_FAILURE(check(veksSortDescend_8u_I, false, equal));
+  });
+}
+
 TEST(Sort, KnownValues) {
   Vek16s elements[] = {3, -1, 2};
   EXPECT_EQ(veksSortDescend_16s_I(elements, 3), vekStsOk);

@@ -1,9 +1,12 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <iomanip>
 #include <iostream>
 #include <limits>
 #include <memory>
+#include <numeric>
 #include <sstream>
 #include <vector>
 
@@ -20,6 +23,10 @@ struct Options {
   std::string in;
 };
 
+// Samples by their level: from 0 dBFS on, from -10, from -20 ... from -90 on, and the rest.
+constexpr int kLevelStep = 10;
+using Levels = std::array<int, 11>;
+
 // What one channel amounts to, full scale being 1.
 struct Measures {
   double peak = 0;  // with its sign
@@ -27,6 +34,7 @@ struct Measures {
   double rms = 0;
   double offset = 0;
   double quartiles[3] = {};
+  Levels levels = {};
 };
 
 // Between the two samples next to that share of the sorted ones.
@@ -37,6 +45,25 @@ double quantile(const T* sorted, int len, double share) {
   const int high = std::min(low + 1, len - 1);
   const auto below = static_cast<double>(sorted[low]);
   return below + (place - low) * (static_cast<double>(sorted[high]) - below);
+}
+
+// Those of a level stand at both ends of the sorted samples.
+template <class T>
+Levels countLevels(const T* sorted, int len) {
+  Levels levels = {};
+  int louder = 0;
+  for (size_t i = 0; i < levels.size(); ++i) {
+    const double least = std::pow(10, -kLevelStep * static_cast<double>(i) / 20);
+    const T* const negative =
+        std::partition_point(sorted, sorted + len, [=](T x) { return double{x} <= -least; });
+    const T* const positive =
+        std::partition_point(negative, sorted + len, [=](T x) { return double{x} < least; });
+    const bool isLast = i + 1 == levels.size();
+    const int all = isLast ? len : len - static_cast<int>(positive - negative);
+    levels[i] = all - louder;
+    louder = all;
+  }
+  return levels;
 }
 
 // Leaves the samples sorted.
@@ -54,6 +81,7 @@ Measures measure(T* samples, int len, const std::string& path) {
   sort(samples, len);
   if (std::isnan(samples[len - 1])) throw Error(path, "holds samples that are not numbers (NaN)");
   for (int i = 0; i < 3; ++i) measures.quartiles[i] = quantile(samples, len, 0.25 * (i + 1));
+  measures.levels = countLevels(samples, len);
   return measures;
 }
 
@@ -85,6 +113,20 @@ std::string decibels(double amplitude) {
   return text.str();
 }
 
+// A line for each level that samples have.
+void print(const Levels& levels) {
+  const double all = std::accumulate(levels.begin(), levels.end(), 0.0);
+  const char* title = "  Levels:      ";
+  for (size_t i = 0; i < levels.size(); ++i) {
+    if (levels[i] == 0) continue;
+    const bool isLast = i + 1 == levels.size();
+    const int decibels = -kLevelStep * static_cast<int>(isLast ? i - 1 : i);
+    std::cout << title << (isLast ? " below " : " from ") << decibels << " dBFS: " << levels[i]
+              << std::setprecision(2) << " (" << 100 * levels[i] / all << " %)\n";
+    title = "               ";
+  }
+}
+
 void print(const Measures& m, int channel, int sampleRate) {
   std::cout << "Channel " << channel << "\n"
             << std::fixed << std::setprecision(6)  //
@@ -100,6 +142,7 @@ void print(const Measures& m, int channel, int sampleRate) {
   std::cout << "  DC offset:    " << m.offset << "\n"
             << "  Median:       " << m.quartiles[1] << "\n"
             << "  Quartiles:    " << m.quartiles[0] << " to " << m.quartiles[2] << "\n";
+  print(m.levels);
 }
 
 void stats(const Options& options) {
@@ -122,14 +165,16 @@ void stats(const Options& options) {
 }  // namespace
 
 void addStats(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("stats", "Show peak, level and median of each channel");
+  CLI::App* command = app.add_subcommand("stats", "Show peak, levels and median of each channel");
   const auto options = std::make_shared<Options>();
   command->add_option("IN", options->in, "The sound file to read")->required();
   command->footer(
       "Samples are fractions of full scale, dBFS are decibels of them: a square wave of full "
       "scale\n"
       "has an RMS of 0 dBFS. The crest factor is peak / RMS. Half of the samples lie between the\n"
-      "quartiles. The whole sound is held in memory.");
+      "quartiles. Levels are those of single samples, silence is below all. The whole sound is "
+      "held\n"
+      "in memory.");
   command->callback([options] { stats(*options); });
 }
 
