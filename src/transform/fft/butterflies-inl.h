@@ -8,6 +8,7 @@
 
 #include <hwy/highway.h>
 
+#include <type_traits>
 #include <utility>
 
 #include "core/parts-inl.h"
@@ -70,6 +71,27 @@ HWY_INLINE void addTurned(D /*d*/, const Parts<V>& a, const Parts<V>& b, Parts<V
   const Parts<V> y = b;
   minus = {hn::Add(x.re, y.im), hn::Sub(x.im, y.re)};
   plus = {hn::Sub(x.re, y.im), hn::Add(x.im, y.re)};
+}
+
+// Replaces a and b by a + w b and a - w b. The difference is 2 a less the sum, which takes one
+// fused operation where a product of its own would take two.
+template <class D, class V>
+HWY_INLINE void twiddledPair(D d, Parts<V>& a, Parts<V>& b, const Parts<V>& w) {
+  const V two = hn::Set(d, hn::TFromD<D>{2});
+  const V re = hn::MulAdd(b.re, w.re, hn::NegMulAdd(b.im, w.im, a.re));
+  const V im = hn::MulAdd(b.im, w.re, hn::MulAdd(b.re, w.im, a.im));
+  b = {hn::MulSub(two, a.re, re), hn::MulSub(two, a.im, im)};
+  a = {re, im};
+}
+
+// Replaces a and b by a - i w b and a + i w b.
+template <class D, class V>
+HWY_INLINE void twiddledTurnedPair(D d, Parts<V>& a, Parts<V>& b, const Parts<V>& w) {
+  const V two = hn::Set(d, hn::TFromD<D>{2});
+  const V re = hn::MulAdd(b.im, w.re, hn::MulAdd(b.re, w.im, a.re));
+  const V im = hn::MulAdd(b.im, w.im, hn::NegMulAdd(b.re, w.re, a.im));
+  b = {hn::MulSub(two, a.re, re), hn::MulSub(two, a.im, im)};
+  a = {re, im};
 }
 
 // Real and imaginary parts in turn, half as many values as a vector has lanes. The inverse
@@ -242,6 +264,95 @@ struct Transform<16> {
     transform4(d, x[12], x[13], x[14], x[15]);
   }
 };
+
+// Transforms whose values are multiplied by powers of a twiddle factor first: x[j] by w^j.
+// Frequency r is then found at x[at(r)]. factor(i) gives factor i < kFactors of those that
+// twiddleFactor() tells, in all lanes or one for each.
+//
+// prepare(j) is called before x[j], x[j + R/4] ... are first used, j < R/4 or 0, and finish(r) once
+// x[at(r)] is final: shuffles there take turns with the arithmetic.
+//
+// With fused multiply-adds the products are part of butterflies of two.
+template <size_t R>
+struct FusedTwiddled {
+  static constexpr size_t kFactors = R / 2;
+  static constexpr size_t at(size_t r) {
+    return 2 * FusedTwiddled<R / 2>::at(r % (R / 2)) + r / (R / 2);
+  }
+  template <class D, class V, class Factor, class Prepare, class Finish>
+  static HWY_INLINE void run(D d, Parts<V>* x, const Factor& factor, const Prepare& prepare,
+                             const Finish& finish) {
+    part<0, 1>(d, x, factor, prepare, finish);
+  }
+
+  // Of x[first], x[first + step] and on.
+  template <size_t first, size_t step, class D, class V, class Factor, class Prepare, class Finish>
+  static HWY_INLINE void part(D d, Parts<V>* x, const Factor& factor, const Prepare& prepare,
+                              const Finish& finish) {
+    using Half = FusedTwiddled<R / 2>;
+    const auto later = [](size_t /*r*/) HWY_ATTR __attribute__((always_inline)){};
+    if constexpr (R == 4) prepare(std::integral_constant<size_t, first>());
+    Half::template part<first, 2 * step>(d, x, factor, prepare, later);
+    Half::template part<first + step, 2 * step>(d, x, factor, prepare, later);
+    each<R / 4>([&](auto k) HWY_ATTR __attribute__((always_inline)) {
+      constexpr size_t quarter = R / 4;
+      const Parts<V> w = factor(quarter + k);
+      Parts<V>* const y = x + first;
+      twiddledPair(d, y[step * at(k)], y[step * at(k + 2 * quarter)], w);
+      finish(std::integral_constant<size_t, k>());
+      finish(std::integral_constant<size_t, k + 2 * quarter>());
+      twiddledTurnedPair(d, y[step * at(k + quarter)], y[step * at(k + 3 * quarter)], w);
+      finish(std::integral_constant<size_t, k + quarter>());
+      finish(std::integral_constant<size_t, k + 3 * quarter>());
+    });
+  }
+};
+
+template <>
+struct FusedTwiddled<2> {
+  static constexpr size_t kFactors = 1;
+  static constexpr size_t at(size_t r) {
+    return r;
+  }
+  template <class D, class V, class Factor, class Prepare, class Finish>
+  static HWY_INLINE void run(D d, Parts<V>* x, const Factor& factor, const Prepare& prepare,
+                             const Finish& finish) {
+    prepare(std::integral_constant<size_t, 0>());
+    part<0, 1>(d, x, factor, prepare, finish);
+  }
+  template <size_t first, size_t step, class D, class V, class Factor, class Prepare, class Finish>
+  static HWY_INLINE void part(D d, Parts<V>* x, const Factor& factor, const Prepare& /*prepare*/,
+                              const Finish& finish) {
+    twiddledPair(d, x[first], x[first + step], factor(0));
+    finish(std::integral_constant<size_t, 0>());
+    finish(std::integral_constant<size_t, 1>());
+  }
+};
+
+// Without, products come first.
+template <size_t R>
+struct PlainTwiddled {
+  static constexpr size_t kFactors = R - 1;
+  static constexpr size_t at(size_t r) {
+    return Transform<R>::at(r);
+  }
+  template <class D, class V, class Factor, class Prepare, class Finish>
+  static HWY_INLINE void run(D d, Parts<V>* x, const Factor& factor, const Prepare& prepare,
+                             const Finish& finish) {
+    each<HWY_MAX(R / 4, 1)>(prepare);
+    each<R - 1>([&](auto j) HWY_ATTR __attribute__((always_inline)) {
+      const Parts<V> w = factor(j);
+      x[j + 1] = times(x[j + 1], w.re, w.im);
+    });
+    Transform<R>::run(d, x);
+    each<R>(finish);
+  }
+};
+
+constexpr bool kFusesTwiddles = HWY_NATIVE_FMA != 0;
+
+template <size_t R>
+using Twiddled = std::conditional_t<kFusesTwiddles, FusedTwiddled<R>, PlainTwiddled<R>>;
 
 }  // namespace HWY_NAMESPACE
 }  // namespace veks

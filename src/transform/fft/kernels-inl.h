@@ -1,8 +1,8 @@
 // The transforms of whole vectors, by length: N = rows * columns.
 //
 // Columns of the input, seen as a matrix of `rows` rows, are transformed in the lanes of vectors.
-// The results are multiplied by twiddle factors; blocks of them are transposed, so that the rows
-// can be transformed in lanes as well and end up in natural order.
+// Blocks of the results are transposed, so that the rows can be transformed in lanes as well,
+// twiddle factors included, and end up in natural order.
 #if defined(VEKS_TRANSFORM_FFT_KERNELS_INL_H) == defined(HWY_TARGET_TOGGLE)
 #ifdef VEKS_TRANSFORM_FFT_KERNELS_INL_H
 #undef VEKS_TRANSFORM_FFT_KERNELS_INL_H
@@ -17,38 +17,77 @@ HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
-// A block of as many frequencies of `kColumns` columns as there are lanes: their rows, twiddle
-// factors, then the transforms of the rows. row(l, t) gives vector t of the row whose frequency
-// belongs in lane l.
-template <size_t kColumns, Layout layout, class D, class Row, class Destination, class T>
-HWY_INLINE void transformBlock(D d, const Row& row, const T* w, const Destination& destination,
-                               size_t out, size_t outStep) {
+// A block of as many frequencies of `kColumns` columns as there are lanes: transposed, then the
+// transforms of the rows with the factors at w, times the factor of the whole transform. row(l, t)
+// gives vector t of the row whose frequency belongs in lane l.
+template <size_t kColumns, Layout layout, bool kScales, class D, class Row, class Destination,
+          class OutStep, class T>
+HWY_INLINE void transformBlock(D d, const Row& row, const T* w, T factor,
+                               const Destination& destination, size_t out, OutStep outStep) {
+  using V = hn::Vec<D>;
   constexpr size_t kLanes = MaxLanes(D());
-  Parts<hn::Vec<D>> x[kColumns];
+  constexpr size_t kBlock = lanesOfBlock(d);
+  constexpr Layout kLayout = kColumnLayout<layout>;
+  V re[kColumns];
+  V im[kColumns];
   each<kColumns / kLanes>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
-    Parts<hn::Vec<D>> y[kLanes];
     each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-      const T* const at = w + (t * kLanes + l) * 2 * kLanes;
-      y[l] = times(row(l, t), hn::LoadU(d, at), hn::LoadU(d, at + kLanes));
+      const Parts<V> y = row(l, t);
+      re[t * kLanes + l] = y.re;
+      im[t * kLanes + l] = y.im;
     });
-    transposeParts(d, y);
-    each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-      x[t * kLanes + laneOrder<T>(layout, kLanes, l)] = y[l];
+    transposeWithinBlocks(d, re + t * kLanes);
+    transposeWithinBlocks(d, im + t * kLanes);
+  });
+  const auto to = destination.template inSteps<kColumns>(out, outStep);
+  Parts<V> x[kColumns];
+  const auto square = [&](auto i) HWY_ATTR __attribute__((always_inline)) {
+    constexpr size_t kFirst = i / kBlock * kLanes + i % kBlock;
+    transposeBlockSquare<kBlock>(d, re + kFirst);
+    transposeBlockSquare<kBlock>(d, im + kFirst);
+    each<kLanes / kBlock>([&](auto q) HWY_ATTR __attribute__((always_inline)) {
+      constexpr size_t l = kFirst % kLanes + q * kBlock;
+      const size_t column = kFirst / kLanes * kLanes + laneOrder<T>(kLayout, kLanes, l);
+      x[column] = {re[kFirst + q * kBlock], im[kFirst + q * kBlock]};
     });
-  });
-  Transform<kColumns>::run(d, x);
-  each<kColumns>([&](auto r) HWY_ATTR __attribute__((always_inline)) {
-    destination.store(d, x[Transform<kColumns>::at(r)], out + r * outStep);
-  });
+  };
+  // A square of blocks at a time where it has the values of one part of the transform.
+  constexpr bool kTakesTurns =
+      kLayout == Layout::kSplit && kColumns == kLanes && kBlock * 4 == kLanes;
+  if constexpr (!kTakesTurns) each<kColumns / kLanes * kBlock>(square);
+  Twiddled<kColumns>::run(
+      d, x,
+      [&](size_t i) HWY_ATTR __attribute__((always_inline)) {
+        const T* const at = w + i * 2 * kLanes;
+        return Parts<V>{hn::LoadU(d, at), hn::LoadU(d, at + kLanes)};
+      },
+      [&](auto i) HWY_ATTR __attribute__((always_inline)) {
+        if constexpr (kTakesTurns) square(i);
+      },
+      [&](auto r) HWY_ATTR __attribute__((always_inline)) {
+        Parts<V> y = x[Twiddled<kColumns>::at(r)];
+        if constexpr (kScales) {
+          const V scale = hn::Set(d, factor);
+          y = {hn::Mul(y.re, scale), hn::Mul(y.im, scale)};
+        }
+        to.store(d, y, r);
+      });
+}
+
+// Values of the twiddle factors of a block.
+template <size_t kColumns, class D>
+constexpr size_t blockFactors(D /*d*/) {
+  return Twiddled<kColumns>::kFactors * 2 * MaxLanes(D());
 }
 
 // Short transforms without loops.
 template <size_t kRows, size_t kColumns, Layout layout, class D, class Source, class Destination,
           class T>
 HWY_INLINE void transformSmall(D d, const Source& source, const Destination& destination,
-                               const T* w) {
+                               const FftDirection<T>& direction) {
   constexpr size_t kLanes = MaxLanes(D());
   constexpr size_t kTiles = kColumns / kLanes;
+  const T* const w = direction.twiddles;
   Parts<hn::Vec<D>> x[kTiles * kRows];
   each<kTiles>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
     each<kRows>([&](auto k) HWY_ATTR __attribute__((always_inline)) {
@@ -61,8 +100,9 @@ HWY_INLINE void transformSmall(D d, const Source& source, const Destination& des
       constexpr size_t k = b * kLanes + laneOrder<T>(layout, kLanes, l);
       return x[t * kRows + Transform<kRows>::at(k)];
     };
-    transformBlock<kColumns, layout>(d, row, w + b * kLanes * 2 * kColumns, destination, b * kLanes,
-                                     kRows);
+    transformBlock<kColumns, layout, true>(d, row, w + b * blockFactors<kColumns>(d),
+                                           direction.factor, destination, b * kLanes,
+                                           Constant<kRows>());
   });
 }
 
@@ -100,7 +140,8 @@ HWY_INLINE void transformSmallPairs(D d, const T* src, T* dst, const T* w) {
 }
 
 // Transforms whose work memory fits in the caches: each pass works on all columns.
-template <size_t kColumns, Layout layout, class D, class Source, class Destination, class T>
+template <size_t kColumns, Layout layout, bool kScales, class D, class Source, class Destination,
+          class T>
 HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Source& source,
                                 const Destination& destination, T* work) {
   constexpr size_t kLanes = MaxLanes(D());
@@ -109,7 +150,7 @@ HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Sou
   const ColumnPasses<T>& passes = plan.columnPasses;
   for (size_t t = 0; t < kColumns; t += kLanes) {
     const StridedRows<Source> rows = {source, t, kColumns};
-    const WorkRows<T> workRows = {work + 2 * t, kRow};
+    const WorkRows<T, kRow> workRows = {work + 2 * t};
     transformColumns(d, rows, workRows, passes);
   }
   const uint32_t* rowOf = passes.rowOf;
@@ -120,8 +161,9 @@ HWY_INLINE void transformMedium(D d, const FftDirection<T>& direction, const Sou
       const T* const at = work + rowOf[k + kLane] * kRow + t * 2 * kLanes;
       return Parts<hn::Vec<D>>{hn::LoadU(d, at), hn::LoadU(d, at + kLanes)};
     };
-    transformBlock<kColumns, layout>(d, row, w, destination, k, plan.rows);
-    w += kLanes * kRow;
+    transformBlock<kColumns, layout, kScales>(d, row, w, direction.factor, destination, k,
+                                              plan.rows);
+    w += blockFactors<kColumns>(d);
   }
 }
 
@@ -142,8 +184,8 @@ HWY_INLINE void columnFactors(const FftPlan<T>& plan, size_t column, T factor, T
 // A block of as many frequencies of as many columns as there are lanes: multiplied by their
 // factors, transposed, to rows of the matrix of which the second sweep transforms the rows.
 template <Layout layout, bool kStreams, class D, class T>
-HWY_INLINE void transposeBand(D d, const WorkRows<T>& rows, const uint32_t* rowOf, const T* w,
-                              const T* factors, T* out) {
+HWY_INLINE void transposeBand(D d, const WorkRows<T, 2 * MaxLanes(D())>& rows,
+                              const uint32_t* rowOf, const T* w, const T* factors, T* out) {
   constexpr size_t kLanes = MaxLanes(D());
   constexpr size_t kRow = 2 * kLanes;
   using P = Parts<hn::Vec<D>>;
@@ -156,7 +198,7 @@ HWY_INLINE void transposeBand(D d, const WorkRows<T>& rows, const uint32_t* rowO
   });
   transposeParts(d, x);
   each<kLanes>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-    T* const to = out + laneOrder<T>(layout, kLanes, l) * kRow;
+    T* const to = out + laneOrder<T>(kColumnLayout<layout>, kLanes, l) * kRow;
     storeVector<kStreams>(d, x[l].re, to);
     storeVector<kStreams>(d, x[l].im, to + kLanes);
   });
@@ -173,7 +215,7 @@ HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Sourc
   T* const band = work + 2 * plan.rows * plan.columns;
   T* const factors = band + kRow * HWY_MAX(plan.rows, plan.columns);
   const uint32_t* rowOf = plan.columnPasses.rowOf;
-  const WorkRows<T> bandRows = {band, kRow};
+  const WorkRows<T, kRow> bandRows = {band};
   for (size_t c = 0; c < plan.columns; c += kLanes) {
     const StridedRows<Source> rows = {source, c, plan.columns};
     transformColumns(d, rows, bandRows, plan.columnPasses);
@@ -187,7 +229,7 @@ HWY_INLINE void transformLong(D d, const FftDirection<T>& direction, const Sourc
   }
   if constexpr (kStreams) hwy::FlushStream();
   for (size_t k = 0; k < plan.rows; k += kLanes) {
-    const WorkRows<T> rows = {work + k * 2 * plan.columns, kRow};
+    const WorkRows<T, kRow> rows = {work + k * 2 * plan.columns};
     const StridedRows<Destination> out = {destination, k, plan.rows};
     transformColumnsTo(d, rows, bandRows, out, plan.rowPasses);
   }
@@ -230,8 +272,8 @@ template <class Ends, size_t kLanes, size_t kRows, size_t kColumns, class T = ty
 void RunSmall(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
               T* /*work*/) {
   const hn::CappedTag<T, kLanes> d;
-  transformSmall<kRows, kColumns, Ends::kLayout>(
-      d, Ends::source(re, im), Ends::destination(dstRe, dstIm), direction.twiddles);
+  transformSmall<kRows, kColumns, Ends::kLayout>(d, Ends::source(re, im),
+                                                 Ends::destination(dstRe, dstIm), direction);
 }
 
 template <class Ends, size_t kPairs, size_t kRows, size_t kColumns, class T = typename Ends::Value>
@@ -244,8 +286,13 @@ void RunSmallPairs(const FftDirection<T>& direction, const T* re, const T* /*im*
 template <class Ends, size_t kColumns, class T = typename Ends::Value>
 void RunMedium(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
                T* work) {
-  transformMedium<kColumns, Ends::kLayout>(FftTag<T>(), direction, Ends::source(re, im),
-                                           Ends::destination(dstRe, dstIm), work);
+  const FftTag<T> d;
+  const auto source = Ends::source(re, im);
+  const auto destination = Ends::destination(dstRe, dstIm);
+  if (direction.factor == 1) {
+    return transformMedium<kColumns, Ends::kLayout, false>(d, direction, source, destination, work);
+  }
+  transformMedium<kColumns, Ends::kLayout, true>(d, direction, source, destination, work);
 }
 
 // Work memory on the stack is aligned, the caller's may not be.
@@ -298,7 +345,8 @@ struct SplitEnds {
   }
 };
 
-constexpr int kFirstLongOrder = 17;
+// Longer transforms are those of more bytes.
+constexpr size_t kMostMediumBytes = size_t{2} << 20;
 constexpr size_t kStackPoints = 1024;
 
 template <class Ends, size_t kValues, size_t kRows, size_t kColumns>
@@ -307,11 +355,18 @@ HWY_INLINE FftKernel<typename Ends::Value> smallKernel(FftShape* shape) {
   constexpr size_t kLanes = MaxLanes(FftTag<T>());
   if constexpr (Ends::kLayout == Layout::kInterleaved && kLanes > 1) {
     constexpr size_t kPairs = HWY_MIN(kValues, kLanes / 2);
-    *shape = {FftSize::kSmallPairs, Ends::kLayout, kPairs, kRows, kColumns};
+    *shape = {FftSize::kSmallPairs,        Ends::kLayout, kPairs, kRows, kColumns, kFusesTwiddles,
+              kColumnLayout<Ends::kLayout>};
     return &RunSmallPairs<Ends, kPairs, kRows, kColumns>;
   } else {
     constexpr size_t kUsed = HWY_MIN(kValues, kLanes);
-    *shape = {FftSize::kSmall, Ends::kLayout, kUsed, kRows, kColumns};
+    *shape = {FftSize::kSmall,
+              Ends::kLayout,
+              kUsed,
+              kRows,
+              kColumns,
+              kFusesTwiddles,
+              kColumnLayout<Ends::kLayout>};
     return &RunSmall<Ends, kUsed, kRows, kColumns>;
   }
 }
@@ -322,7 +377,13 @@ FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
   using T = typename Ends::Value;
   constexpr size_t kLanes = MaxLanes(FftTag<T>());
   constexpr size_t kColumns = HWY_MAX(kLanes, 8);
-  *shape = {FftSize::kSmall, Ends::kLayout, 1, size_t{1} << order, 1};
+  *shape = {FftSize::kSmall,
+            Ends::kLayout,
+            1,
+            size_t{1} << order,
+            1,
+            kFusesTwiddles,
+            kColumnLayout<Ends::kLayout>};
   switch (order) {
     case 0:
       return &RunPoint<Ends>;
@@ -347,13 +408,25 @@ FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
     if (order == 8) return smallKernel<Ends, 16, 16, 16>(shape);
   }
   const size_t n = size_t{1} << order;
-  if (order >= kFirstLongOrder) {
+  if (n > kMostMediumBytes / (2 * sizeof(T))) {
     const size_t rows = size_t{1} << (order + 1) / 2;
-    *shape = {FftSize::kLong, Ends::kLayout, kLanes, rows, n / rows};
+    *shape = {FftSize::kLong,
+              Ends::kLayout,
+              kLanes,
+              rows,
+              n / rows,
+              kFusesTwiddles,
+              kColumnLayout<Ends::kLayout>};
     return &RunLong<Ends>;
   }
   const FftSize size = n <= kStackPoints ? FftSize::kMediumOnStack : FftSize::kMedium;
-  *shape = {size, Ends::kLayout, kLanes, n / kColumns, kColumns};
+  *shape = {size,
+            Ends::kLayout,
+            kLanes,
+            n / kColumns,
+            kColumns,
+            kFusesTwiddles,
+            kColumnLayout<Ends::kLayout>};
   if (size == FftSize::kMediumOnStack) return &RunMediumOnStack<Ends, kColumns, kStackPoints>;
   return &RunMedium<Ends, kColumns>;
 }

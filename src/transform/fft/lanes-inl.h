@@ -35,10 +35,93 @@ HWY_INLINE Parts<V> deinterleave(D d, V a, V b) {
   }
 }
 
+// Pointers `step` values apart, a constant or not. The compiler would keep one register for each,
+// and few of them in registers: every fourth is pinned instead, from which instructions reach the
+// others.
+template <size_t kCount, class T, class Step>
+class Pointers {
+ public:
+  HWY_INLINE Pointers(T* first, Step step) : step_(step) {
+    each<kBases>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
+      bases_[i] = first + 4 * i * step;
+      if constexpr (kIsPinned) asm("" : "+r"(bases_[i]));
+    });
+  }
+  HWY_INLINE T* operator[](size_t i) const {
+    return bases_[i / 4] + i % 4 * step_;
+  }
+
+ private:
+  static constexpr bool kIsPinned = std::is_same<Step, size_t>::value;
+  static constexpr size_t kBases = (kCount + 3) / 4;
+  T* bases_[kBases];
+  Step step_;
+};
+
+template <size_t kFactor, class Step>
+HWY_INLINE auto timesStep(Step step) {
+  if constexpr (std::is_same<Step, size_t>::value) {
+    return kFactor * step;
+  } else {
+    return std::integral_constant<size_t, kFactor * Step::value>();
+  }
+}
+
+// Vectors at positions that are a step apart: of arrays of pairs, then of separate parts. End is a
+// source or a destination at one position.
+template <class End, class P>
+struct PairsInSteps {
+  P at;
+  template <class D>
+  HWY_INLINE auto load(D d, size_t i) const {
+    return End{at[i]}.loadColumns(d, 0);
+  }
+  template <class D, class V>
+  HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
+    End{at[i]}.store(d, x, 0);
+  }
+};
+
+template <class End, class P>
+struct PartsInSteps {
+  P re;
+  P im;
+  template <class D>
+  HWY_INLINE auto load(D d, size_t i) const {
+    return End{re[i], im[i]}.loadColumns(d, 0);
+  }
+  template <class D, class V>
+  HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
+    End{re[i], im[i]}.store(d, x, 0);
+  }
+};
+
+#if HWY_TARGET == HWY_AVX3
+// The values at even and at odd positions of two vectors, in order.
+HWY_INLINE Parts<hn::Vec512<float>> unzip(hn::Vec512<float> a, hn::Vec512<float> b) {
+  const __m512i even = _mm512_set_epi32(30, 28, 26, 24, 22, 20, 18, 16, 14, 12, 10, 8, 6, 4, 2, 0);
+  const __m512i odd = _mm512_set_epi32(31, 29, 27, 25, 23, 21, 19, 17, 15, 13, 11, 9, 7, 5, 3, 1);
+  return {hn::Vec512<float>{_mm512_permutex2var_ps(a.raw, even, b.raw)},
+          hn::Vec512<float>{_mm512_permutex2var_ps(a.raw, odd, b.raw)}};
+}
+HWY_INLINE Parts<hn::Vec512<double>> unzip(hn::Vec512<double> a, hn::Vec512<double> b) {
+  const __m512i even = _mm512_set_epi64(14, 12, 10, 8, 6, 4, 2, 0);
+  const __m512i odd = _mm512_set_epi64(15, 13, 11, 9, 7, 5, 3, 1);
+  return {hn::Vec512<double>{_mm512_permutex2var_pd(a.raw, even, b.raw)},
+          hn::Vec512<double>{_mm512_permutex2var_pd(a.raw, odd, b.raw)}};
+}
+#endif
+
 // Values in an array of pairs, real and imaginary parts exchanged if so asked.
 template <class T, bool kExchanged>
 struct InterleavedSource {
   const T* pairs;
+  template <size_t kCount, class Step>
+  HWY_INLINE auto inSteps(size_t i, Step step) const {
+    const auto twice = timesStep<2>(step);
+    using P = Pointers<kCount, const T, std::remove_const_t<decltype(twice)>>;
+    return PairsInSteps<InterleavedSource, P>{P(pairs + 2 * i, twice)};
+  }
   template <class D>
   HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t i) const {
     const T* const from = pairs + 2 * i;
@@ -51,15 +134,37 @@ struct InterleavedSource {
     if constexpr (kExchanged) return {x.im, x.re};
     return x;
   }
+
+  // The same in order, or as kColumnLayout says. The lanes are those of a full vector.
+  template <class D>
+  HWY_INLINE Parts<hn::Vec<D>> loadColumns(D d, size_t i) const {
+#if HWY_TARGET == HWY_AVX3
+    const T* const from = pairs + 2 * i;
+    const auto x = unzip(hn::LoadU(d, from), hn::LoadU(d, from + MaxLanes(D())));
+    if constexpr (kExchanged) return {x.im, x.re};
+    return x;
+#else
+    return load(d, i);
+#endif
+  }
 };
 
 template <class T>
 struct SplitSource {
   const T* re;
   const T* im;
+  template <size_t kCount, class Step>
+  HWY_INLINE auto inSteps(size_t i, Step step) const {
+    using P = Pointers<kCount, const T, Step>;
+    return PartsInSteps<SplitSource, P>{P(re + i, step), P(im + i, step)};
+  }
   template <class D>
   HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t i) const {
     return {hn::LoadU(d, re + i), hn::LoadU(d, im + i)};
+  }
+  template <class D>
+  HWY_INLINE Parts<hn::Vec<D>> loadColumns(D d, size_t i) const {
+    return load(d, i);
   }
 };
 
@@ -82,6 +187,12 @@ template <class T, bool kExchanged, bool kStreams = false>
 struct InterleavedDestination {
   using Streaming = InterleavedDestination<T, kExchanged, true>;
   T* pairs;
+  template <size_t kCount, class Step>
+  HWY_INLINE auto inSteps(size_t i, Step step) const {
+    const auto twice = timesStep<2>(step);
+    using P = Pointers<kCount, T, std::remove_const_t<decltype(twice)>>;
+    return PairsInSteps<InterleavedDestination, P>{P(pairs + 2 * i, twice)};
+  }
   Streaming streaming() const {
     return {pairs};
   }
@@ -109,6 +220,11 @@ struct SplitDestination {
   using Streaming = SplitDestination<T, true>;
   T* re;
   T* im;
+  template <size_t kCount, class Step>
+  HWY_INLINE auto inSteps(size_t i, Step step) const {
+    using P = Pointers<kCount, T, Step>;
+    return PartsInSteps<SplitDestination, P>{P(re + i, step), P(im + i, step)};
+  }
   Streaming streaming() const {
     return {re, im};
   }
@@ -122,6 +238,10 @@ struct SplitDestination {
     storeVector<kStreams>(d, x.im, im + i);
   }
 };
+
+// The order of columns in lanes, where loadColumns() keeps them in order at no cost.
+template <Layout layout>
+constexpr Layout kColumnLayout = HWY_TARGET == HWY_AVX3 ? Layout::kSplit : layout;
 
 // Transposes within blocks of 16 bytes: x[i] of `kBlock` vectors.
 template <class D, class V>
@@ -159,38 +279,47 @@ HWY_INLINE hn::Vec512<double> oddBlocks(hn::Vec512<double> a, hn::Vec512<double>
 }
 #endif
 
-// Transposes a square of blocks of 16 bytes: vectors i, i + kRows, ... for each i < kRows.
-template <size_t kRows, class D, class V>
-HWY_INLINE void transposeAmongBlocks(D d, V* x) {
+// Transposes a square of blocks of 16 bytes: as many vectors as they have blocks, `step` apart.
+template <size_t step, class D, class V>
+HWY_INLINE void transposeBlockSquare(D d, V* x) {
   constexpr size_t kBlocks = MaxLanes(D()) * sizeof(hn::TFromD<D>) / 16;
   if constexpr (kBlocks == 2) {
-    each<kRows>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
-      const V low = hn::ConcatLowerLower(d, x[i + kRows], x[i]);
-      x[i + kRows] = hn::ConcatUpperUpper(d, x[i + kRows], x[i]);
-      x[i] = low;
-    });
+    const V low = hn::ConcatLowerLower(d, x[step], x[0]);
+    x[step] = hn::ConcatUpperUpper(d, x[step], x[0]);
+    x[0] = low;
   }
 #if HWY_TARGET == HWY_AVX3
   if constexpr (kBlocks == 4) {
-    each<kRows>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
-      const V a = evenBlocks(x[i], x[i + kRows]);
-      const V b = oddBlocks(x[i], x[i + kRows]);
-      const V c = evenBlocks(x[i + 2 * kRows], x[i + 3 * kRows]);
-      const V e = oddBlocks(x[i + 2 * kRows], x[i + 3 * kRows]);
-      x[i] = evenBlocks(a, c);
-      x[i + kRows] = evenBlocks(b, e);
-      x[i + 2 * kRows] = oddBlocks(a, c);
-      x[i + 3 * kRows] = oddBlocks(b, e);
-    });
+    const V a = evenBlocks(x[0], x[step]);
+    const V b = oddBlocks(x[0], x[step]);
+    const V c = evenBlocks(x[2 * step], x[3 * step]);
+    const V e = oddBlocks(x[2 * step], x[3 * step]);
+    x[0] = evenBlocks(a, c);
+    x[step] = evenBlocks(b, e);
+    x[2 * step] = oddBlocks(a, c);
+    x[3 * step] = oddBlocks(b, e);
   }
 #endif
 }
 
-// Transposes a square of as many vectors as they have lanes.
+// The same for vectors i, i + kRows, ... for each i < kRows.
+template <size_t kRows, class D, class V>
+HWY_INLINE void transposeAmongBlocks(D d, V* x) {
+  each<kRows>([&](auto i) HWY_ATTR
+              __attribute__((always_inline)) { transposeBlockSquare<kRows>(d, x + i); });
+}
+
+// As many lanes as are in 16 bytes, all of a shorter vector.
+template <class D>
+constexpr size_t lanesOfBlock(D /*d*/) {
+  return HWY_MIN(MaxLanes(D()), 16 / sizeof(hn::TFromD<D>));
+}
+
+// The first half of a transposition: within squares of blocks.
 template <class D, class V>
-HWY_INLINE void transpose(D d, V* x) {
+HWY_INLINE void transposeWithinBlocks(D d, V* x) {
   constexpr size_t kLanes = MaxLanes(D());
-  constexpr size_t kBlock = HWY_MIN(kLanes, 16 / sizeof(hn::TFromD<D>));
+  constexpr size_t kBlock = lanesOfBlock(d);
   each<kLanes / kBlock>([&](auto g) HWY_ATTR __attribute__((always_inline)) {
     V* const rows = x + g * kBlock;
     if constexpr (kBlock == 2) {
@@ -199,7 +328,13 @@ HWY_INLINE void transpose(D d, V* x) {
       transposeBlocks(d, rows[0], rows[1], rows[2], rows[3]);
     }
   });
-  transposeAmongBlocks<kBlock>(d, x);
+}
+
+// Transposes a square of as many vectors as they have lanes.
+template <class D, class V>
+HWY_INLINE void transpose(D d, V* x) {
+  transposeWithinBlocks(d, x);
+  transposeAmongBlocks<lanesOfBlock(d)>(d, x);
 }
 
 // Transposes a square of as many vectors as they have pairs.

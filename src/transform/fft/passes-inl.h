@@ -1,5 +1,5 @@
 // Transforms of the columns of a matrix whose rows are vectors: passes of radix 4, 8 and 16 in
-// place, decimation in frequency.
+// place. Factors belong to whole groups of rows, which are few.
 #if defined(VEKS_TRANSFORM_FFT_PASSES_INL_H) == defined(HWY_TARGET_TOGGLE)
 #ifdef VEKS_TRANSFORM_FFT_PASSES_INL_H
 #undef VEKS_TRANSFORM_FFT_PASSES_INL_H
@@ -14,21 +14,43 @@ HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
-// Rows in work memory: the real parts, then the imaginary ones, `stride` values from row to row.
-template <class T>
-struct WorkRows {
-  T* first;
-  size_t stride;
+// Rows in work memory, `kStride` values from row to row: the real parts, then the imaginary ones,
+// of one vector after the other.
+template <class P>
+struct WorkRowsInSteps {
+  P at;
   template <class D>
-  HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t row) const {
-    const T* const at = first + row * stride;
-    return {hn::LoadU(d, at), hn::LoadU(d, at + MaxLanes(D()))};
+  HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t i) const {
+    return {hn::LoadU(d, at[i]), hn::LoadU(d, at[i] + MaxLanes(D()))};
   }
   template <class D, class V>
-  HWY_INLINE void store(D d, const Parts<V>& x, size_t row) const {
-    T* const at = first + row * stride;
-    hn::StoreU(x.re, d, at);
-    hn::StoreU(x.im, d, at + MaxLanes(D()));
+  HWY_INLINE void store(D d, const Parts<V>& x, size_t i) const {
+    hn::StoreU(x.re, d, at[i]);
+    hn::StoreU(x.im, d, at[i] + MaxLanes(D()));
+  }
+  template <class D>
+  HWY_INLINE void prefetch(D /*d*/, size_t i) const {
+    __builtin_prefetch(at[i], 1);
+    __builtin_prefetch(at[i] + MaxLanes(D()), 1);
+  }
+};
+
+template <class T, size_t kStride>
+struct WorkRows {
+  T* first;
+  static constexpr size_t bytes(size_t rows) {
+    return rows * kStride * sizeof(T);
+  }
+  template <size_t kCount, class Step>
+  HWY_INLINE auto inSteps(size_t row, Step step) const {
+    const auto values = timesStep<kStride>(step);
+    using P = Pointers<kCount, T, std::remove_const_t<decltype(values)>>;
+    return WorkRowsInSteps<P>{P(first + row * kStride, values)};
+  }
+  template <class D>
+  HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t row) const {
+    const T* const at = first + row * kStride;
+    return {hn::LoadU(d, at), hn::LoadU(d, at + MaxLanes(D()))};
   }
 };
 
@@ -38,116 +60,151 @@ struct StridedRows {
   const Values& values;
   size_t first;
   size_t stride;
-  template <class D>
-  HWY_INLINE auto load(D d, size_t row) const {
-    return values.load(d, first + row * stride);
-  }
-  template <class D, class V>
-  HWY_INLINE void store(D d, const Parts<V>& x, size_t row) const {
-    values.store(d, x, first + row * stride);
+  template <size_t kCount>
+  HWY_INLINE auto inSteps(size_t row, size_t step) const {
+    return values.template inSteps<kCount>(first + row * stride, step * stride);
   }
 };
 
-// One transform of R points from rows in, in + step, ... to rows out, out + outStep, ...; results
-// but the first are multiplied by the factors at w, if there are any.
-template <size_t R, bool kTwiddles, class D, class Source, class Destination, class T>
-HWY_INLINE void transformRows(D d, const Source& source, size_t in, size_t step,
-                              const Destination& destination, size_t out, size_t outStep,
+// A distance of rows that is known in advance.
+template <size_t n>
+using Constant = std::integral_constant<size_t, n>;
+
+// One transform of R points from rows in, in + step, ... to rows out, out + outStep, ...; with the
+// factors at w, if there are any.
+template <size_t R, class D, class Source, class Step, class Destination, class OutStep, class T>
+HWY_INLINE void transformRows(D d, const Source& source, size_t in, Step step,
+                              const Destination& destination, size_t out, OutStep outStep,
                               const T* w) {
+  const auto from = source.template inSteps<R>(in, step);
+  const auto to = destination.template inSteps<R>(out, outStep);
+  constexpr size_t kQuarter = HWY_MAX(R / 4, 1);
   Parts<hn::Vec<D>> x[R];
-  each<R>([&](auto k) HWY_ATTR
-          __attribute__((always_inline)) { x[k] = source.load(d, in + k * step); });
-  Transform<R>::run(d, x);
-  each<R>([&](auto r) HWY_ATTR __attribute__((always_inline)) {
-    const auto& y = x[Transform<R>::at(r)];
-    if constexpr (kTwiddles && r > 0) {
-      const auto wRe = hn::Set(d, w[2 * r - 2]);
-      const auto wIm = hn::Set(d, w[2 * r - 1]);
-      destination.store(d, times(y, wRe, wIm), out + r * outStep);
-    } else {
-      destination.store(d, y, out + r * outStep);
-    }
-  });
+  Twiddled<R>::run(
+      d, x,
+      [&](size_t i) HWY_ATTR __attribute__((always_inline)) {
+        return Parts<hn::Vec<D>>{hn::Set(d, w[2 * i]), hn::Set(d, w[2 * i + 1])};
+      },
+      [&](auto j) HWY_ATTR __attribute__((always_inline)) {
+        each<R / kQuarter>([&](auto q) HWY_ATTR __attribute__((always_inline)) {
+          x[j + q * kQuarter] = from.load(d, j + q * kQuarter);
+        });
+      },
+      [&](auto r) HWY_ATTR
+      __attribute__((always_inline)) { to.store(d, x[Twiddled<R>::at(r)], r); });
 }
 
-// The pass with factors of radix R over n rows from `base` on.
-template <size_t R, class D, class Source, class Destination, class T>
-HWY_NOINLINE void pass(D d, const Source source, const Destination destination, size_t base,
-                       size_t n, const T* w) {
+template <size_t R, class D, class Source, class Step, class Destination, class OutStep>
+HWY_INLINE void transformRows(D d, const Source& source, size_t in, Step step,
+                              const Destination& destination, size_t out, OutStep outStep) {
+  const auto from = source.template inSteps<R>(in, step);
+  const auto to = destination.template inSteps<R>(out, outStep);
+  Parts<hn::Vec<D>> x[R];
+  each<R>([&](auto k) HWY_ATTR __attribute__((always_inline)) { x[k] = from.load(d, k); });
+  Transform<R>::run(d, x);
+  each<R>([&](auto r) HWY_ATTR
+          __attribute__((always_inline)) { to.store(d, x[Transform<R>::at(r)], r); });
+}
+
+// From this size on, lines to be written are asked for ahead.
+constexpr size_t kFarBytes = size_t{16} << 10;
+
+// The first pass, of radix R, over n rows: without factors.
+template <size_t R, class D, class Source, class Destination>
+HWY_NOINLINE void firstPass(D d, const Source& source, const Destination& destination, size_t n) {
   const size_t step = n / R;
-  for (size_t p = base; p < base + step; ++p) {
-    transformRows<R, true>(d, source, p, step, destination, p, step, w);
-    w += 2 * (R - 1);
+  const bool isFar = destination.bytes(n) >= kFarBytes;
+  for (size_t p = 0; p < step; ++p) {
+    // Rows that are a power of two apart share few sets of lines of the first cache: 16 of them
+    // would displace each other.
+    if (R <= 8 && isFar) {
+      const auto ahead = destination.template inSteps<R>(p + 2, step);
+      each<R>([&](auto r) HWY_ATTR __attribute__((always_inline)) { ahead.prefetch(d, r); });
+    }
+    transformRows<R>(d, source, p, step, destination, p, step);
   }
 }
 
-template <class D, class Source, class Destination, class T>
-HWY_INLINE void passOf(size_t radix, D d, const Source& source, const Destination& destination,
-                       size_t base, size_t n, const T* w) {
-  if (radix == 16) return pass<16>(d, source, destination, base, n, w);
-  pass<8>(d, source, destination, base, n, w);
+// A pass of radix R over n rows from `base` on, which share their factors.
+template <size_t R, class D, class T, size_t kStride>
+HWY_NOINLINE void pass(D d, const WorkRows<T, kStride>& work, size_t base, size_t n, const T* w) {
+  const size_t step = n / R;
+  for (size_t p = base; p < base + step; ++p) {
+    transformRows<R>(d, work, p, step, work, p, step, w);
+  }
 }
 
 // The last pass over the groups of R rows from `base` on, in place or into the rows of a
 // destination in natural order.
-template <size_t R, class D, class T>
-HWY_NOINLINE void lastPass(D d, const WorkRows<T> work, size_t base, size_t n) {
-  const T* const none = nullptr;
-  for (size_t in = base; in < base + n; in += R) {
-    transformRows<R, false>(d, work, in, 1, work, in, 1, none);
+template <size_t R, class D, class T, size_t kStride>
+HWY_NOINLINE void lastPass(D d, const WorkRows<T, kStride>& work, size_t base, size_t n,
+                           const T* w) {
+  for (size_t in = base; in < base + n; in += R, w += 2 * Twiddled<R>::kFactors) {
+    transformRows<R>(d, work, in, Constant<1>(), work, in, Constant<1>(), w);
   }
 }
 
-template <size_t R, class D, class Destination, class T>
-HWY_NOINLINE void lastPassTo(D d, const WorkRows<T> work, const Destination destination,
+template <size_t R, class D, class Destination, class T, size_t kStride>
+HWY_NOINLINE void lastPassTo(D d, const WorkRows<T, kStride>& work, const Destination& destination,
                              const ColumnPasses<T>& passes) {
-  const T* const none = nullptr;
+  const T* w = passes.twiddles[passes.count - 1];
   const size_t groups = passes.length / R;
-  for (size_t group = 0; group < groups; ++group) {
-    transformRows<R, false>(d, work, group * R, 1, destination, passes.firstOfGroup[group], groups,
-                            none);
+  for (size_t group = 0; group < groups; ++group, w += 2 * Twiddled<R>::kFactors) {
+    transformRows<R>(d, work, group * R, Constant<1>(), destination, passes.firstOfGroup[group],
+                     groups, w);
   }
 }
 
-// All passes but the first over the n work rows from `base` on, the last one on request.
-template <class D, class T>
-HWY_NOINLINE void laterPasses(D d, const WorkRows<T> work, size_t base, size_t n, bool withLast,
-                              const ColumnPasses<T>& passes) {
-  size_t part = n;
+// All passes but the first, which left parts of `part` rows, over the n work rows from `base` on,
+// the last one on request.
+template <class D, class T, size_t kStride>
+HWY_NOINLINE void laterPasses(D d, const WorkRows<T, kStride>& work, size_t base, size_t n,
+                              bool withLast, size_t part, const ColumnPasses<T>& passes) {
   for (int level = 1; level + 1 < passes.count; ++level) {
     const size_t radix = passes.radices[level];
-    for (size_t i = base; i < base + n; i += part) {
-      passOf(radix, d, work, work, i, part, passes.twiddles[level]);
+    const size_t factors = radix == 16 ? Twiddled<16>::kFactors : Twiddled<8>::kFactors;
+    const T* w = passes.twiddles[level] + base / part * 2 * factors;
+    for (size_t i = base; i < base + n; i += part, w += 2 * factors) {
+      if (radix == 16) {
+        pass<16>(d, work, i, part, w);
+      } else {
+        pass<8>(d, work, i, part, w);
+      }
     }
     part /= radix;
   }
   if (!withLast) return;
-  const size_t last = passes.radices[passes.count - 1];
-  if (last == 16) return lastPass<16>(d, work, base, n);
-  if (last == 8) return lastPass<8>(d, work, base, n);
-  lastPass<4>(d, work, base, n);
+  const T* const w = passes.twiddles[passes.count - 1];
+  if (part == 16) return lastPass<16>(d, work, base, n, w + base / 16 * 2 * Twiddled<16>::kFactors);
+  if (part == 8) return lastPass<8>(d, work, base, n, w + base / 8 * 2 * Twiddled<8>::kFactors);
+  lastPass<4>(d, work, base, n, w + base / 4 * 2 * Twiddled<4>::kFactors);
 }
 
 // The first pass, then the others part by part, so that parts stay in the first cache.
-template <class D, class Source, class T>
-HWY_INLINE void firstPasses(D d, const Source& source, const WorkRows<T>& work, bool withLast,
-                            const ColumnPasses<T>& passes) {
+template <class D, class Source, class T, size_t kStride>
+HWY_INLINE void firstPasses(D d, const Source& source, const WorkRows<T, kStride>& work,
+                            bool withLast, const ColumnPasses<T>& passes) {
   const size_t n = passes.length;
-  const size_t part = passes.count == 2 ? n : n / passes.radices[0];
-  passOf(passes.radices[0], d, source, work, 0, n, passes.twiddles[0]);
-  for (size_t i = 0; i < n; i += part) laterPasses(d, work, i, part, withLast, passes);
+  const size_t part = n / passes.radices[0];
+  if (passes.radices[0] == 16) {
+    firstPass<16>(d, source, work, n);
+  } else {
+    firstPass<8>(d, source, work, n);
+  }
+  if (passes.count == 2) return laterPasses(d, work, 0, n, withLast, part, passes);
+  for (size_t i = 0; i < n; i += part) laterPasses(d, work, i, part, withLast, part, passes);
 }
 
 // All passes, two or more, from the source to the work rows, in the order of passes.rowOf.
-template <class D, class Source, class T>
-HWY_INLINE void transformColumns(D d, const Source& source, const WorkRows<T>& work,
+template <class D, class Source, class T, size_t kStride>
+HWY_INLINE void transformColumns(D d, const Source& source, const WorkRows<T, kStride>& work,
                                  const ColumnPasses<T>& passes) {
   firstPasses(d, source, work, true, passes);
 }
 
 // The same with the last pass, of radix 8 or 16, to the rows of a destination in natural order.
-template <class D, class Source, class Destination, class T>
-HWY_INLINE void transformColumnsTo(D d, const Source& source, const WorkRows<T>& work,
+template <class D, class Source, class Destination, class T, size_t kStride>
+HWY_INLINE void transformColumnsTo(D d, const Source& source, const WorkRows<T, kStride>& work,
                                    const Destination& destination, const ColumnPasses<T>& passes) {
   firstPasses(d, source, work, false, passes);
   if (passes.radices[passes.count - 1] == 16) return lastPassTo<16>(d, work, destination, passes);

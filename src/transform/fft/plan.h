@@ -37,7 +37,7 @@ struct FftDirection {
   FftKernel<T> kernel;
   const FftPlan<T>* plan;
   T factor;
-  // The twiddle factors of rows and columns, times the factor but for long transforms.
+  // The twiddle factors of rows and columns, times the factor in transforms of pairs.
   const T* twiddles;
 };
 
@@ -49,8 +49,7 @@ struct ColumnPasses {
   size_t length;
   int count;
   uint8_t radices[kMaxPasses];
-  // Passes before the last one multiply by exp(-2 pi i p r / n): for each p, for each r > 0, the
-  // real and the imaginary part.
+  // The factors of passes but the first: for each group of rows, real and imaginary parts in turn.
   const T* twiddles[kMaxPasses];
   // The row in which the passes leave frequency k. It is its own inverse's table as well: group s
   // of the last pass begins with the frequency firstOfGroup[s].
@@ -59,7 +58,7 @@ struct ColumnPasses {
 };
 
 // N = rows * columns. The transforms of the columns come first, `lanes` of them at a time, then
-// twiddle factors, then the transforms of the rows.
+// those of the rows, whose values are multiplied by twiddle factors.
 template <class T>
 struct FftPlan {
   int order;
@@ -85,6 +84,8 @@ struct FftShape {
   size_t lanes;
   size_t rows;
   size_t columns;
+  bool fusesTwiddles;
+  Layout columnLayout;
 };
 
 }  // namespace veks

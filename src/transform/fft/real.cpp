@@ -33,7 +33,7 @@ void fillFactors(size_t n, size_t lanes, T* w) {
 template <class T>
 RealFftPlan<T>* makeRealPlan(int order) {
   RealFftPlan<T> plan = {};
-  VEKS_KERNEL(BindRealFft<T>)(&plan);
+  VEKS_KERNEL(BindRealFft<T>)(order, &plan);
   const size_t n = size_t{1} << order;
   void* const block = allocate(sizeof(plan) + Arena::kAlignment + n / 2 * sizeof(T));
   if (block == nullptr) return nullptr;
@@ -82,7 +82,7 @@ VekStatus toPerm(const Context& context, const T* src, T* dst, Vek8u* buffer) {
   const VekStatus status = runPlan(half.forward, src, src, dst, dst, buffer, context.workSize);
   if (status != vekStsOk) return status;
   const RealFftPlan<T>& plan = realPlanOf(context);
-  plan.untangle(plan.w, dst, dst, size_t{1} << half.order);
+  plan.untangle(plan.w, dst, size_t{1} << half.order);
   const T re = dst[0];
   const T im = dst[1];
   dst[0] = re + im;
@@ -101,9 +101,7 @@ VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T
   const size_t needed = half.workElements * sizeof(T);
   const WorkMemory work(buffer, static_cast<size_t>(context.workSize), needed);
   if (work.failed()) return vekErrMemAllocTooSmall;
-  plan.tangle(plan.w, pairs, dst, size_t{1} << half.order);
-  dst[0] = T{0.5} * (first + middle);
-  dst[1] = T{0.5} * (first - middle);
+  plan.tangle(plan.w, first, middle, pairs, dst, size_t{1} << half.order);
   half.inverse.kernel(half.inverse, dst, dst, dst, dst, static_cast<T*>(work.get()));
   return vekStsOk;
 }

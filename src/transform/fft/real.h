@@ -10,15 +10,19 @@ struct VeksFFTContext_R_64f : veks::FloatFftContext<double, 9> {};
 
 namespace veks {
 
-// The step between the half-length complex transform and the real one; from and to may be the same.
+// The steps between the half-length complex transform and the real one; from and to may be the
+// same.
 template <class T>
-using CombineKernel = void (*)(const T* w, const T* from, T* to, size_t m);
+using UntangleKernel = void (*)(const T* w, T* values, size_t m);
+// Frequency 0 comes from those two of the real signal, first and middle.
+template <class T>
+using TangleKernel = void (*)(const T* w, T first, T middle, const T* from, T* to, size_t m);
 
 template <class T>
 struct RealFftPlan {
   size_t lanes;
-  CombineKernel<T> untangle;
-  CombineKernel<T> tangle;
+  UntangleKernel<T> untangle;
+  TangleKernel<T> tangle;
   const T* w;
 };
 

@@ -8,13 +8,14 @@ namespace veks {
 namespace {
 
 // Radices of passes over 2^log2Length rows, log2Length at most 16: few passes, the largest radices
-// first, and 2 or 4 at the end only.
+// last, because the first pass is the one that works across all of the memory, and 2 or 4 at the
+// end only.
 int chooseRadices(int log2Length, uint8_t* log2Radices) {
   const int count = log2Length <= 4 ? 1 : (log2Length + 3) / 4;
   for (int i = 0, left = log2Length; i < count; ++i) {
     const int others = count - 1 - i;
-    // The last pass takes what is left, passes between take 3 or 4.
-    const int most = others == 0 ? left : std::min(4, std::max(3, left - 3 * others));
+    // The last pass takes what is left, the others take 3 or 4.
+    const int most = others == 0 ? left : std::min(4, std::max(3, left - 4 * others));
     log2Radices[i] = static_cast<uint8_t>(most);
     left -= most;
   }
@@ -35,8 +36,25 @@ size_t firstFrequency(size_t group, const uint8_t* radices, int count) {
   return frequency;
 }
 
+// How many factors a transform of `radix` points has whose value j is to be multiplied by w^j.
+size_t factorCount(size_t radix, bool isFused) {
+  return isFused ? radix / 2 : radix - 1;
+}
+
+// Factor i of them for w = exp(-2 pi i k / n): powers of w from 1 on or, for butterflies of two,
+// m = 2, 4, ... radix, first w^(radix/m), times exp(-2 pi i j / m) for each j < m/4.
 template <class T>
-void makePasses(size_t length, ColumnPasses<T>* passes, Arena* arena) {
+void storeTwiddleFactor(size_t i, size_t radix, bool isFused, size_t k, size_t n, T* re, T* im) {
+  if (!isFused) return storeUnitRoot((i + 1) * k % n, n, T{1}, re, im);
+  size_t m = 2;
+  while (i >= m / 2) m *= 2;
+  const size_t j = i - m / 4;
+  const size_t turn = m * n;
+  storeUnitRoot((radix / m * k % n * m + j * n) % turn, turn, T{1}, re, im);
+}
+
+template <class T>
+void makePasses(size_t length, bool isFused, ColumnPasses<T>* passes, Arena* arena) {
   int log2Length = 0;
   while (size_t{1} << log2Length < length) ++log2Length;
   uint8_t log2Radices[ColumnPasses<T>::kMaxPasses] = {};
@@ -47,12 +65,19 @@ void makePasses(size_t length, ColumnPasses<T>* passes, Arena* arena) {
     const size_t radix = size_t{1} << log2Radices[i];
     passes->radices[i] = static_cast<uint8_t>(radix);
     passes->twiddles[i] = nullptr;
-    if (i + 1 == passes->count) break;
-    T* w = arena->take<T>(2 * (radix - 1) * (n / radix));
-    passes->twiddles[i] = w;
-    for (size_t p = 0; !arena->isCounting() && p < n / radix; ++p) {
-      for (size_t r = 1; r < radix; ++r, w += 2) storeUnitRoot(p * r, n, T{1}, w, w + 1);
+    if (i > 0) {
+      const size_t count = factorCount(radix, isFused);
+      const size_t groups = length / n;
+      T* w = arena->take<T>(2 * count * groups);
+      passes->twiddles[i] = w;
+      for (size_t group = 0; !arena->isCounting() && group < groups; ++group) {
+        const size_t frequency = firstFrequency(group, passes->radices, i);
+        for (size_t f = 0; f < count; ++f, w += 2) {
+          storeTwiddleFactor(f, radix, isFused, frequency, groups * radix, w, w + 1);
+        }
+      }
     }
+    if (i + 1 == passes->count) break;
     n /= radix;
   }
   const size_t groups = length / n;
@@ -69,21 +94,35 @@ void makePasses(size_t length, ColumnPasses<T>* passes, Arena* arena) {
   }
 }
 
-// For each row and column of a square of as many as there are lanes: what lane j of the vector for
-// the row in lane l holds.
+// For each row and the first columns, as many as there are lanes: what lane j of the vector for the
+// row in lane l holds.
 template <class T>
-void fillSquare(const FftShape& shape, size_t firstRow, size_t firstColumn, T factor, T* w) {
+void fillSquare(const FftShape& shape, size_t firstRow, T* w) {
   const size_t n = shape.rows * shape.columns;
   for (size_t l = 0; l < shape.lanes; ++l, w += 2 * shape.lanes) {
     const size_t row = firstRow + laneOrder<T>(shape.layout, shape.lanes, l);
     for (size_t j = 0; j < shape.lanes; ++j) {
-      const size_t column = firstColumn + laneOrder<T>(shape.layout, shape.lanes, j);
-      storeUnitRoot(row * column, n, factor, w + j, w + shape.lanes + j);
+      const size_t column = laneOrder<T>(shape.columnLayout, shape.lanes, j);
+      storeUnitRoot(row * column, n, T{1}, w + j, w + shape.lanes + j);
     }
   }
 }
 
-// The same for `lanes` pairs: the real parts twice, then the imaginary parts with both signs.
+// For as many rows as there are lanes: their factors, a vector of each.
+template <class T>
+void fillBlock(const FftShape& shape, size_t firstRow, T* w) {
+  const size_t n = shape.rows * shape.columns;
+  const size_t count = factorCount(shape.columns, shape.fusesTwiddles);
+  for (size_t f = 0; f < count; ++f, w += 2 * shape.lanes) {
+    for (size_t l = 0; l < shape.lanes; ++l) {
+      const size_t row = firstRow + laneOrder<T>(shape.layout, shape.lanes, l);
+      storeTwiddleFactor(f, shape.columns, shape.fusesTwiddles, row, n, w + l, w + shape.lanes + l);
+    }
+  }
+}
+
+// A square as before for `lanes` pairs: the real parts twice, then the imaginary parts with both
+// signs.
 template <class T>
 void fillSquareOfPairs(const FftShape& shape, size_t firstRow, size_t firstColumn, T factor,
                        bool isInverse, T* w) {
@@ -101,24 +140,31 @@ void fillSquareOfPairs(const FftShape& shape, size_t firstRow, size_t firstColum
   }
 }
 
-// Short transforms: the factors of all rows and columns. Long ones: those of the first columns, to
-// be multiplied by others.
+// The factors of all rows and columns of transforms of pairs, of the rows of others; of long ones
+// those of the first columns, to be multiplied by others.
 template <class T>
 const T* makeTwiddles(const FftShape& shape, T factor, bool isInverse, Arena* arena) {
   const bool inPairs = shape.size == FftSize::kSmallPairs;
-  const size_t columns = shape.size == FftSize::kLong ? shape.lanes : shape.columns;
-  T* const twiddles = arena->take<T>((inPairs ? 4 : 2) * shape.rows * columns);
+  const bool isLong = shape.size == FftSize::kLong;
+  const size_t values = inPairs  ? 4 * shape.columns
+                        : isLong ? 2 * shape.lanes
+                                 : 2 * factorCount(shape.columns, shape.fusesTwiddles);
+  T* const twiddles = arena->take<T>(values * shape.rows);
   if (arena->isCounting()) return nullptr;
   T* w = twiddles;
   for (size_t row = 0; row < shape.rows; row += shape.lanes) {
-    for (size_t column = 0; column < columns; column += shape.lanes) {
-      if (inPairs) {
-        fillSquareOfPairs(shape, row, column, factor, isInverse, w);
-      } else {
-        fillSquare(shape, row, column, factor, w);
+    if (inPairs) {
+      T* square = w;
+      for (size_t column = 0; column < shape.columns; column += shape.lanes) {
+        fillSquareOfPairs(shape, row, column, factor, isInverse, square);
+        square += 4 * shape.lanes * shape.lanes;
       }
-      w += (inPairs ? 4 : 2) * shape.lanes * shape.lanes;
+    } else if (isLong) {
+      fillSquare(shape, row, w);
+    } else {
+      fillBlock(shape, row, w);
     }
+    w += values * shape.lanes;
   }
   return twiddles;
 }
@@ -153,17 +199,14 @@ void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena) {
   if (shape.columns == 1) return;
   const bool isLong = shape.size == FftSize::kLong;
   const bool inPairs = shape.size == FftSize::kSmallPairs;
-  const T forwardFactor = isLong ? T{1} : plan->forward.factor;
-  const T inverseFactor = isLong ? T{1} : plan->inverse.factor;
-  plan->forward.twiddles = makeTwiddles(shape, forwardFactor, false, arena);
-  plan->inverse.twiddles = forwardFactor == inverseFactor && !inPairs
-                               ? plan->forward.twiddles
-                               : makeTwiddles(shape, inverseFactor, true, arena);
+  plan->forward.twiddles = makeTwiddles(shape, plan->forward.factor, false, arena);
+  plan->inverse.twiddles =
+      inPairs ? makeTwiddles(shape, plan->inverse.factor, true, arena) : plan->forward.twiddles;
   if (inPairs || shape.size == FftSize::kSmall) return;
-  makePasses(shape.rows, &plan->columnPasses, arena);
+  makePasses(shape.rows, shape.fusesTwiddles, &plan->columnPasses, arena);
   if (shape.size == FftSize::kMedium) plan->workElements = 2 * n;
   if (!isLong) return;
-  makePasses(shape.columns, &plan->rowPasses, arena);
+  makePasses(shape.columns, shape.fusesTwiddles, &plan->rowPasses, arena);
   makePowers(n, plan, arena);
   // The matrix, a band of it and the factors of its first column.
   const size_t longer = std::max(shape.rows, shape.columns);
