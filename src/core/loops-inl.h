@@ -53,6 +53,12 @@ HWY_INLINE void produceShort(D d, const Body& body, T* dst, size_t n) {
   }
 }
 
+// The vectors that produce() asks a body for: full ones, unless a body specialises it.
+template <class Body, class T>
+struct ProducedTag {
+  using Type = hn::ScalableTag<T>;
+};
+
 enum class Stores { kCached, kStreaming };
 
 template <Stores stores, class D, class V, class T>
@@ -64,13 +70,45 @@ HWY_INLINE void store(D d, V v, T* dst) {
   }
 }
 
+// Whether n elements from dst on are better written past the caches. Not so in place: what is read
+// there is in the caches already. EMU128 has no such stores.
+template <size_t kGroup, class T>
+HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
+  if (HWY_TARGET == HWY_EMU128) return false;
+  const bool aligned = reinterpret_cast<uintptr_t>(dst) % (kGroup * sizeof(T)) == 0;
+  return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && !inPlace && aligned;
+}
+
+// Vectors in place that no cache holds: their lines are asked for more than a page before they are
+// needed, because the processor's own prefetching stops at the end of a page.
+template <class T>
+HWY_INLINE bool wantsPrefetching(size_t n, bool inPlace) {
+  if (HWY_TARGET == HWY_EMU128) return false;
+  return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && inPlace;
+}
+
+// dst[k] = body for k = i .. n - 1, but for the last ones, of which there is no line ahead. Returns
+// where it stopped.
+template <class T, class Body>
+HWY_INLINE size_t producePrefetched(const Body& body, T* dst, size_t i, size_t n) {
+  const typename ProducedTag<Body, T>::Type d;
+  constexpr size_t kLanes = MaxLanes(d);
+  constexpr size_t kLine = HWY_MAX(64 / sizeof(T), kLanes);
+  constexpr size_t kAhead = 80 * kLine;
+  for (; i + kAhead < n; i += kLine) {
+    __builtin_prefetch(dst + i + kAhead, 0, 2);
+    for (size_t k = i; k < i + kLine; k += kLanes) hn::StoreU(body(d, k), d, dst + k);
+  }
+  return i;
+}
+
 // dst[i] = body for i = 0 .. n - 1, in ascending order, n more than two vectors. The body may read
 // dst, at the same positions or at later ones: a vector that overlaps others is computed before
 // they are stored. Each vector of the loop is stored before the next one is loaded, which is faster
 // than in groups.
 template <Stores stores, size_t kGroup, class T, class Body>
-HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
-  const hn::ScalableTag<T> d;
+HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n, bool inPlace) {
+  const typename ProducedTag<Body, T>::Type d;
   constexpr size_t kLanes = MaxLanes(d);
   size_t i = lanesToBoundary<kGroup>(dst, kLanes);
   const auto first = body(d, 0);
@@ -79,6 +117,9 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   hn::StoreU(first, d, dst);
   hn::StoreU(aligned, d, dst + i);
   i += kLanes;
+  if constexpr (stores == Stores::kCached) {
+    if (wantsPrefetching<T>(n, inPlace)) i = producePrefetched(body, dst, i, n);
+  }
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
     store<stores>(d, body(d, i), dst + i);
     store<stores>(d, body(d, i + kLanes), dst + i + kLanes);
@@ -90,20 +131,11 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n) {
   hn::StoreU(last, d, dst + n - kLanes);
 }
 
-// Whether n elements from dst on are better written past the caches. Not so in place: what is read
-// there is in the caches already. EMU128 has no such stores.
-template <size_t kGroup, class T>
-HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
-  if (HWY_TARGET == HWY_EMU128) return false;
-  const bool aligned = reinterpret_cast<uintptr_t>(dst) % (kGroup * sizeof(T)) == 0;
-  return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && !inPlace && aligned;
-}
-
 // The skeleton of everything that computes a vector from vectors at the same positions. Elements of
 // several lanes are not split: they are groups, and n and all positions are multiples of kGroup.
 template <size_t kGroup = 1, class T, class Body>
 HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
-  const hn::ScalableTag<T> d;
+  const typename ProducedTag<Body, T>::Type d;
   // One vector is two halves, of which fewer cross a cache line and which a following call gets
   // back sooner. The hints lay that out without a taken branch: there it counts.
   if (HWY_LIKELY(n <= 2 * MaxLanes(d))) {
@@ -120,9 +152,9 @@ HWY_INLINE void produce(const Body& body, T* dst, size_t n, bool inPlace) {
     return;
   }
   if (wantsStreaming<kGroup>(dst, n, inPlace)) {
-    return produceLoop<Stores::kStreaming, kGroup>(body, dst, n);
+    return produceLoop<Stores::kStreaming, kGroup>(body, dst, n, inPlace);
   }
-  produceLoop<Stores::kCached, kGroup>(body, dst, n);
+  produceLoop<Stores::kCached, kGroup>(body, dst, n, inPlace);
 }
 
 // The same for bodies of many instructions, of which it makes few copies: next to their time, that
@@ -159,10 +191,11 @@ HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace)
   const size_t boundary = lanesToBoundary<kGroup>(dst, kLanes);
   size_t i = inPlace || boundary == 0 ? kLanes : boundary;
   if (!kIsSlow && wantsStreaming<kGroup>(dst, n, inPlace)) {
-    for (; i + kLanes <= n; i += kLanes) hn::Stream(body(d, i), d, dst + i);
+    for (; i + kLanes < n; i += kLanes) hn::Stream(body(d, i), d, dst + i);
     hwy::FlushStream();
   } else {
-    for (; i + kLanes <= n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
+    if (!kIsSlow && wantsPrefetching<T>(n, inPlace)) i = producePrefetched(body, dst, i, n);
+    for (; i + kLanes < n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
   }
   hn::StoreU(last, d, dst + n - kLanes);
 }

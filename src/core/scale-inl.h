@@ -32,12 +32,49 @@ HWY_INLINE V saturateTo(D d, V r) {
   }
 }
 
+// All lanes shifted alike. With vectors of 64 bytes, counts in every lane take an instruction less
+// than one count for all of them.
+template <class D, class V>
+HWY_INLINE V shiftRight(D d, V v, int bits) {
+#if HWY_TARGET <= HWY_AVX3
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) > 1 && sizeof(T) * MaxLanes(D()) == 64) {
+    return hn::Shr(v, hn::Set(d, static_cast<T>(bits)));
+  }
+#endif
+  (void)d;
+  return hn::ShiftRightSame(v, bits);
+}
+template <class D, class V>
+HWY_INLINE V shiftLeft(D d, V v, int bits) {
+#if HWY_TARGET <= HWY_AVX3
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) > 1 && sizeof(T) * MaxLanes(D()) == 64) {
+    return hn::Shl(v, hn::Set(d, static_cast<T>(bits)));
+  }
+#endif
+  (void)d;
+  return hn::ShiftLeftSame(v, bits);
+}
+
+// The lowest bit of a & b.
+template <class D, class V>
+HWY_INLINE V lowestOfBoth(D d, V a, V b) {
+  const V one = hn::Set(d, hn::TFromD<D>{1});
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(hn::TFromD<D>) * MaxLanes(D()) == 64) {
+    return V{_mm512_ternarylogic_epi32(a.raw, b.raw, one.raw, 0x80)};
+  }
+#endif
+  return hn::And(hn::And(a, b), one);
+}
+
 // h + l / 2 to nearest, ties to even, where l is the lowest bit of `half`; the others are ignored.
 // Half a unit above the greatest value, which only differences reach, saturates.
 template <bool kIsDifference = false, class D, class V>
 HWY_INLINE V roundHalves(D d, V h, V half) {
   using T = hn::TFromD<D>;
-  const V up = hn::And(hn::And(h, half), hn::Set(d, T{1}));
+  const V up = lowestOfBoth(d, h, half);
   if constexpr (!kIsDifference) {
     return hn::Add(h, up);
   } else if constexpr (sizeof(T) <= 2) {
@@ -67,9 +104,8 @@ HWY_INLINE V roundShift(D d, V h, V half, int bits) {
   const auto middle = static_cast<Unsigned>(Unsigned{1} << (bits - 1));
   const V one = hn::Set(d, T{1});
   // Unsigned lanes of 32 bits may be shifted by all of them, which not every target can.
-  const V quotient = std::is_same_v<T, uint32_t>
-                         ? hn::ShiftRight<1>(hn::ShiftRightSame(h, bits - 1))
-                         : hn::ShiftRightSame(h, bits);
+  const V quotient = std::is_same_v<T, uint32_t> ? hn::ShiftRight<1>(shiftRight(d, h, bits - 1))
+                                                 : shiftRight(d, h, bits);
   const V quotientOrHalf = hn::Or(quotient, half);
   if constexpr (std::is_same_v<T, int16_t>) {
     // (h * 2^(15 - bits) + 2^14) >> 15 rounds ties up; one less, they go down.
@@ -77,7 +113,7 @@ HWY_INLINE V roundShift(D d, V h, V half, int bits) {
     return hn::MulFixedPoint15(below, hn::Set(d, static_cast<T>(1 << (15 - bits))));
   } else if constexpr (kHeadroom) {
     const V addend = hn::Add(hn::Set(d, static_cast<T>(middle - 1)), hn::And(quotientOrHalf, one));
-    return hn::ShiftRightSame(hn::Add(h, addend), bits);
+    return shiftRight(d, hn::Add(h, addend), bits);
   } else {
     const auto mask = static_cast<Unsigned>(middle - 1 + middle);
     const V remainder = hn::And(h, hn::Set(d, static_cast<T>(mask)));
@@ -102,12 +138,12 @@ HWY_INLINE V shiftLeftSaturated(D d, V r, int bits) {
   if constexpr (std::is_signed_v<Wide>) {
     const V min = hn::Set(d, static_cast<Wide>(std::numeric_limits<Dst>::min()));
     const V lastAboveMin = hn::Set(d, static_cast<Wide>(minBeforeShift<Dst>(bits)));
-    const V shifted = hn::ShiftLeftSame(r, bits);
+    const V shifted = shiftLeft(d, r, bits);
     const V belowMax = hn::IfThenElse(hn::Gt(r, lastBelowMax), max, shifted);
     return hn::IfThenElse(hn::Gt(lastAboveMin, r), min, belowMax);
   } else {
     const V clamped = hn::Min(r, lastBelowMax);
-    return hn::IfThenElse(hn::Eq(clamped, r), hn::ShiftLeftSame(clamped, bits), max);
+    return hn::IfThenElse(hn::Eq(clamped, r), shiftLeft(d, clamped, bits), max);
   }
 }
 

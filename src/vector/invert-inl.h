@@ -8,6 +8,7 @@
 
 #include <limits>
 
+#include "core/square_root-inl.h"
 #include "vector/magnitude-inl.h"
 #include "vector/pairs-inl.h"
 #include "veks/types.h"
@@ -46,17 +47,15 @@ struct InvertedPairs<float> {
     auto divisor = magnitudes;
     const auto below = hn::Lt(magnitudes, hn::Set(wide, bound.square));
     if (!hn::AllFalse(wide, below)) {
-      const auto limited = hn::Mul(hn::Sqrt(magnitudes), hn::Set(wide, double{level}));
+      const auto limited = hn::Mul(anyRoot(wide, magnitudes), hn::Set(wide, double{level}));
       divisor = hn::IfThenElse(below, limited, magnitudes);
     }
     const V inverse = conjugate(d, scaledPairs(d, halves, hn::Div(hn::Set(wide, 1.0), divisor)));
     if (HWY_LIKELY(isCommon)) return inverse;
     const auto isZero = hn::Eq(magnitudes, hn::Zero(wide));
     *divided |= hn::AllFalse(wide, isZero) ? 0 : 1;
-    const V numbers = hn::IfThenElse(maskOfPairs(d, pairOrder(wide, isZero)),
-                                     setPairs(d, 1 / level, 0.0f), inverse);
-    const auto isNumber = pairOrder(wide, hn::Eq(magnitudes, magnitudes));
-    return hn::IfThenElse(maskOfPairs(d, isNumber), numbers, x);
+    const V numbers = selectPairs(d, isZero, setPairs(d, 1 / level, 0.0f), inverse);
+    return selectPairs(d, hn::Eq(magnitudes, magnitudes), numbers, x);
   }
 };
 
@@ -87,7 +86,7 @@ struct InvertedPairs<double> {
     V scale = unit.scale;
     const auto below = bound.template compare<vekCmpLess>(d, x);
     if (!hn::AllFalse(d, below)) {
-      divisor = hn::IfThenElse(below, hn::Sqrt(magnitudes), magnitudes);
+      divisor = hn::IfThenElse(below, squareRoot(d, magnitudes), magnitudes);
       factor = hn::IfThenElse(below, hn::Set(d, scaledInverse), factor);
       scale = hn::IfThenElse(below, hn::Set(d, bound.scale), scale);
     }

@@ -43,12 +43,32 @@ HWY_INLINE auto squares16(D32 d32, V x) {
   }
 }
 
-// Vek32fc: the lower and the upper half of a vector, as doubles.
+// Vek32fc: the lower and the upper half of a vector, as doubles; in vectors of 64 bytes, where it
+// takes fewer shuffles, the real and the imaginary parts. Their squares are exact.
 template <class V>
 struct Halves {
   V lower;
   V upper;
 };
+
+#if HWY_TARGET <= HWY_AVX3
+using WidePairs = hn::ScalableTag<double>;
+using ManyPairs = hn::ScalableTag<float>;
+
+HWY_INLINE Halves<hn::Vec<WidePairs>> widened(ManyPairs d, hn::Vec<ManyPairs> x) {
+  const WidePairs wide;
+  return {hn::PromoteTo(wide, hn::LowerHalf(hn::ConcatEven(d, x, x))),
+          hn::PromoteTo(wide, hn::LowerHalf(hn::ConcatOdd(d, x, x)))};
+}
+
+HWY_INLINE hn::Vec<WidePairs> squares(WidePairs /*wide*/, const Halves<hn::Vec<WidePairs>>& x) {
+  return hn::Add(hn::Mul(x.lower, x.lower), hn::Mul(x.upper, x.upper));
+}
+
+HWY_INLINE hn::Vec<WidePairs> pairOrder(WidePairs wide, hn::Mask<WidePairs> mask) {
+  return hn::VecFromMask(wide, mask);
+}
+#endif
 
 template <class D, class V>
 HWY_INLINE auto widened(D /*d*/, V x) {
@@ -94,6 +114,18 @@ HWY_INLINE auto maskOfPairs(D d, V lanes) {
   return hn::MaskFromVec(hn::BitCast(d, lanes));
 }
 
+// Vek32fc: the pairs of yes where the mask, in the order of squares(), is set, else those of no.
+template <class D, class M, class V>
+HWY_INLINE V selectPairs(D d, M mask, V yes, V no) {
+  const hn::RepartitionToWide<D> wide;
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (std::is_same_v<D, ManyPairs>) {
+    return hn::BitCast(d, hn::IfThenElse(mask, hn::BitCast(wide, yes), hn::BitCast(wide, no)));
+  }
+#endif
+  return hn::IfThenElse(maskOfPairs(d, pairOrder(wide, mask)), yes, no);
+}
+
 // Infinite parts become finite ones of a magnitude that makes all finite floats vanish beside them.
 template <class D64, class V>
 HWY_INLINE Halves<V> finite(D64 wide, const Halves<V>& x) {
@@ -118,6 +150,16 @@ HWY_INLINE auto narrowedHalf(D half, V x) {
 }
 
 // x * scale, rounded to float once, with the scales in the order of squares().
+#if HWY_TARGET <= HWY_AVX3
+HWY_INLINE hn::Vec<ManyPairs> scaledPairs(ManyPairs /*d*/, const Halves<hn::Vec<WidePairs>>& x,
+                                          hn::Vec<WidePairs> scale) {
+  alignas(64) static constexpr int32_t kInTurn[] = {0, 16, 1, 17, 2, 18, 3, 19,
+                                                    4, 20, 5, 21, 6, 22, 7, 23};
+  const __m512 re = _mm512_castps256_ps512(_mm512_cvtpd_ps(hn::Mul(x.lower, scale).raw));
+  const __m512 im = _mm512_castps256_ps512(_mm512_cvtpd_ps(hn::Mul(x.upper, scale).raw));
+  return hn::Vec<ManyPairs>{_mm512_permutex2var_ps(re, _mm512_load_si512(kInTurn), im)};
+}
+#endif
 template <class D, class V>
 HWY_INLINE auto scaledPairs(D d, const Halves<V>& x, V scale) {
   const hn::RepartitionToWide<D> wide;

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/square_root-inl.h"
 #include "vector/magnitude-inl.h"
 #include "vector/pairs-inl.h"
 #include "veks/types.h"
@@ -106,17 +107,23 @@ struct RescaledPairs<op, float> {
     auto magnitudes = squares(wide, halves);
     const auto beyond = isBeyond<op>(magnitudes, hn::Set(wide, bound.square));
     if (hn::AllFalse(wide, beyond)) return x;
+    // What zeros, infinities and NaN give, if they are not beyond, is dropped.
+    auto roots = anyRoot(wide, magnitudes);
     if constexpr (op == vekCmpGreater) {
-      halves = finite(wide, halves);
-      magnitudes = squares(wide, halves);
+      const auto infinity = hn::Set(wide, std::numeric_limits<double>::infinity());
+      if (HWY_UNLIKELY(!hn::AllTrue(wide, hn::Lt(magnitudes, infinity)))) {
+        halves = finite(wide, halves);
+        roots = hn::Sqrt(squares(wide, halves));
+      }
     }
-    const auto scale = hn::Div(hn::Set(wide, finiteLevel), hn::Sqrt(magnitudes));
-    V result = scaledPairs(d, halves, scale);
+    V result = scaledPairs(d, halves, hn::Div(hn::Set(wide, finiteLevel), roots));
     if constexpr (op == vekCmpLess) {
-      const auto isZero = pairOrder(wide, hn::Eq(magnitudes, hn::Zero(wide)));
-      result = hn::IfThenElse(maskOfPairs(d, isZero), setPairs(d, level, 0.0f), result);
+      const auto isZero = hn::Eq(magnitudes, hn::Zero(wide));
+      if (HWY_UNLIKELY(!hn::AllFalse(wide, isZero))) {
+        result = selectPairs(d, isZero, setPairs(d, level, 0.0f), result);
+      }
     }
-    return hn::IfThenElse(maskOfPairs(d, pairOrder(wide, beyond)), result, x);
+    return selectPairs(d, beyond, result, x);
   }
 };
 
@@ -133,7 +140,7 @@ struct RescaledPairs<op, double> {
     if (hn::AllFalse(d, beyond)) return x;
     const V unit = normalisedFinite(d, x).x;
     const V magnitudes = squares(d, unit);
-    const V direction = hn::Div(unit, hn::Sqrt(magnitudes));
+    const V direction = hn::Div(unit, squareRoot(d, magnitudes));
     const V scaled = hn::Mul(direction, hn::Set(d, level));
     // The level may be infinite.
     V result = hn::IfThenElse(hn::Eq(direction, hn::Zero(d)), direction, scaled);

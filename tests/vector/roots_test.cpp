@@ -37,6 +37,98 @@ TEST(Roots, FloatingPoint) {
   checkRoots(veksSqrt_64f, veksSqrt_64f_I);
 }
 
+// The function's results for all of src, at every position of the vectors of a loop.
+template <class T>
+void checkCorrectlyRounded(VekStatus (*out)(const T*, T*, int), const std::vector<T>& src) {
+  std::vector<T> expected(src.size());
+  for (size_t i = 0; i < src.size(); ++i) expected[i] = std::sqrt(src[i]);
+  std::vector<T> dst(src.size());
+  onEveryTarget([&] {
+    for (size_t skipped : {0, 16}) {
+      const int len = static_cast<int>(src.size() - skipped);
+      std::fill(dst.begin(), dst.end(), T{-1});
+      ASSERT_EQ(out(src.data() + skipped, dst.data() + skipped, len), vekStsOk);
+      std::copy_n(expected.begin(), skipped, dst.begin());
+      ASSERT_TRUE(sameBits(expected, dst));
+    }
+  });
+}
+
+TEST(Roots, EverySignificandOfFloats) {
+  constexpr size_t kPart = size_t{1} << 20;
+  std::vector<float> src(kPart);
+  for (float first : {1.0F, 2.0F}) {
+    for (size_t part = 0; part < 8; ++part) {
+      for (size_t i = 0; i < kPart; ++i) {
+        src[i] = first * (1 + static_cast<float>(part * kPart + i) * 0x1p-23F);
+      }
+      checkCorrectlyRounded(veksSqrt_32f, src);
+    }
+  }
+}
+
+TEST(Roots, EveryExponent) {
+  std::mt19937_64 random(9);
+  std::vector<float> floats;
+  for (uint32_t exponent = 0; exponent < 255; ++exponent) {
+    for (int i = 0; i < 200; ++i) {
+      const uint32_t bits = exponent << 23 | static_cast<uint32_t>(random() % (1 << 23));
+      floats.push_back(0);
+      std::memcpy(&floats.back(), &bits, sizeof(bits));
+    }
+  }
+  checkCorrectlyRounded(veksSqrt_32f, floats);
+  std::vector<double> doubles;
+  for (uint64_t exponent = 0; exponent < 2047; ++exponent) {
+    for (int i = 0; i < 200; ++i) {
+      const uint64_t bits = exponent << 52 | random() >> 12;
+      doubles.push_back(0);
+      std::memcpy(&doubles.back(), &bits, sizeof(bits));
+    }
+  }
+  checkCorrectlyRounded(veksSqrt_64f, doubles);
+}
+
+// With odd m and a small k, of either sign, v = (m^2 + k) / 4^54 has a root next to m / 2^54, which
+// lies in the middle between two doubles. Where v is a double, m is a root of -k modulo 2^54, for v
+// >= 2 modulo 2^55: the lowest bits of it decide about those that follow.
+std::vector<double> radicandsNextToMiddles() {
+  std::vector<double> all;
+  for (int bits : {54, 55}) {
+    const uint64_t modulus = uint64_t{1} << bits;
+    for (uint64_t k = 7; k < 512; k += 8) {
+      for (uint64_t square : {0 - k, k - 6}) {
+        uint64_t root = 1;
+        for (int bit = 3; bit < bits; ++bit) {
+          if (((root * root - square) >> bit & 1) != 0) root += uint64_t{1} << (bit - 1);
+        }
+        for (uint64_t m : {root, 0 - root, root + modulus / 2, modulus / 2 - root}) {
+          m %= modulus;
+          const Exact v = exact(m) * exact(m) - exact(static_cast<int64_t>(square));
+          const uint64_t significand = v.high << (64 - bits) | v.low >> bits;
+          if (significand >> 52 != 1 || (m >> 53) != 1) continue;
+          all.push_back(std::ldexp(static_cast<double>(significand), bits - 106));
+        }
+      }
+    }
+  }
+  return all;
+}
+
+TEST(Roots, NextToMiddles) {
+  const std::vector<double> radicands = radicandsNextToMiddles();
+  ASSERT_GT(radicands.size(), 150U);
+  for (double v : radicands) ASSERT_TRUE(v >= 1 && v < 4);
+  std::vector<double> src;
+  for (int exponent = -800; exponent <= 1000; exponent += 120) {
+    for (double v : radicands) src.push_back(std::ldexp(v, exponent));
+  }
+  for (int skipped = 0; skipped < 32; skipped += 8) {
+    src.insert(src.begin(), 8, 1.5);
+    checkCorrectlyRounded(veksSqrt_64f, src);
+  }
+}
+
 // Whether a * 4^shift, 0 <= shift < 64, is below, at or above b^2.
 int compareSquares(uint64_t a, int shift, uint64_t b) {
   const Exact power = {false, 0, uint64_t{1} << shift};
@@ -120,6 +212,38 @@ TEST(Roots, OfIntegers) {
   Vek16s root = 0;
   EXPECT_EQ(veksSqrt_16s_Sfs(&positive, &root, 1, 0), vekStsOk);
   EXPECT_EQ(root, 3);
+}
+
+// Integers whose roots are whole, or lie next to the middle of two numbers.
+TEST(Roots, NextToSquares) {
+  std::mt19937_64 random(11);
+  std::vector<Vek64s> src;
+  for (int bits = 1; bits <= 31; ++bits) {
+    for (int i = 0; i < 300; ++i) {
+      const Vek64s root = static_cast<Vek64s>(random() >> (64 - bits) | uint64_t{1} << (bits - 1));
+      for (Vek64s x : {root * root, root * root - 1, root * root + root, root * root + root + 1}) {
+        src.push_back(x);
+      }
+    }
+  }
+  constexpr Vek64s kLargestRoot = 3037000499;
+  src.push_back(kLargestRoot * kLargestRoot);
+  src.push_back(kLargestRoot * kLargestRoot + kLargestRoot);
+  src.push_back(std::numeric_limits<Vek64s>::max());
+  std::vector<Vek64s> dst(src.size());
+  std::vector<Vek16s> narrow(src.size());
+  onEveryTarget([&] {
+    for (int s = -20; s <= 34; ++s) {
+      SCOPED_TRACE("scale factor " + std::to_string(s));
+      const int len = static_cast<int>(src.size());
+      ASSERT_EQ(veksSqrt_64s_Sfs(src.data(), dst.data(), len, s), vekStsOk);
+      ASSERT_EQ(veksSqrt_64s16s_Sfs(src.data(), narrow.data(), len, s), vekStsOk);
+      for (size_t i = 0; i < src.size(); ++i) {
+        ASSERT_TRUE(isScaledRoot<Vek64s>(src[i], s, dst[i])) << "root of " << src[i];
+        ASSERT_EQ(narrow[i], std::min(dst[i], Vek64s{32767})) << "root of " << src[i];
+      }
+    }
+  });
 }
 
 template <class T>

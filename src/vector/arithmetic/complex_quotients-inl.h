@@ -34,11 +34,11 @@ HWY_INLINE V reciprocalOfPairs(D d, V v) {
 // Whether quotients are rounded once, or come from a reciprocal, with three roundings.
 enum class Quotients { kRounded, kFast };
 
-// conj(a) b
+// (re - i im) b
 template <class D, class V>
-HWY_INLINE V productWithConjugate(D d, V a, V b) {
-  const V straight = hn::Mul(b, hn::DupEven(a));
-  const V crossed = hn::Mul(swapParts(d, b), hn::DupOdd(a));
+HWY_INLINE V productWithConjugate(D d, V re, V im, V b) {
+  const V straight = hn::Mul(b, re);
+  const V crossed = hn::Mul(swapParts(d, b), im);
 #if HWY_TARGET == HWY_AVX3
   // A sum in even lanes and a difference in odd ones; the factor 1 leaves one rounding.
   if constexpr (std::is_same_v<V, hn::Vec512<float>>) {
@@ -63,7 +63,8 @@ HWY_INLINE V plainComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   const V norm = squaredMagnitude(d, a);
   const auto zero = hn::Eq(norm, hn::Zero(d));
   zeroSeen |= !hn::AllFalse(d, zero);
-  const V dividend = hn::IfThenElse(zero, b, productWithConjugate(d, a, b));
+  const V product = productWithConjugate(d, hn::DupEven(a), hn::DupOdd(a), b);
+  const V dividend = hn::IfThenElse(zero, b, product);
   if constexpr (quotients == Quotients::kRounded) {
     return hn::Div(dividend, norm);
   } else {
@@ -82,8 +83,8 @@ struct Range<float> {
   static constexpr float kHuge = 0x1p123F;
   static constexpr float kSmall = 0x1p-60F;
   static constexpr float kRaise = 0x1p64F;
-  static constexpr float kOrdinary = 0x1p31F;
-  static constexpr float kLeastQuotient = 0x1p-90F;
+  static constexpr float kLeastOrdinary = 0x1p-31F;
+  static constexpr float kMostOrdinary = 0x1p16F;
 };
 
 template <>
@@ -93,8 +94,8 @@ struct Range<double> {
   static constexpr double kHuge = 0x1p1019;
   static constexpr double kSmall = 0x1p-800;
   static constexpr double kRaise = 0x1p200;
-  static constexpr double kOrdinary = 0x1p255;
-  static constexpr double kLeastQuotient = 0x1p-700;
+  static constexpr double kLeastOrdinary = 0x1p-255;
+  static constexpr double kMostOrdinary = 0x1p150;
 };
 
 // 2^-e, where 2^e is the power of two just below the larger part, or the nearest normal number.
@@ -135,30 +136,47 @@ HWY_INLINE V wideComplexQuotient(D d, V a, V b, bool& zeroSeen) {
   return hn::Mul(scaled, hn::BitCast(d, hn::Add(exponentOfOne, hn::Sub(back, half))));
 }
 
-// Whether all parts of both are far from zero and from the ends of the range.
+// Whether all parts of both are so far from zero and from the ends of the range that the quotient,
+// where it does not cancel out altogether, is a normal number: a part of the product is at least
+// 2^-23 (2^-52 of double) times the square of the least ordinary number, what it is divided by at
+// most twice the square of the greatest one.
 template <class D, class V>
 HWY_INLINE bool areOrdinary(D d, V a, V b) {
   using R = Range<hn::TFromD<D>>;
-  const V least = hn::Set(d, 1 / R::kOrdinary);
-  const V most = hn::Set(d, R::kOrdinary);
+  const V least = hn::Set(d, R::kLeastOrdinary);
+  const V most = hn::Set(d, R::kMostOrdinary);
+#if HWY_TARGET <= HWY_AVX3
+  // Twice the bits are without the sign.
+  const hn::RebindToUnsigned<D> du;
+  const auto twice = [&](V v) HWY_ATTR { return hn::Add(hn::BitCast(du, v), hn::BitCast(du, v)); };
+  const auto range = hn::Sub(twice(most), twice(least));
+  const auto isOrdinary = [&](V v)
+                              HWY_ATTR { return hn::Lt(hn::Sub(twice(v), twice(least)), range); };
+  return hn::AllTrue(du, hn::And(isOrdinary(a), isOrdinary(b)));
+#else
   const auto isOrdinary = [&](V v) HWY_ATTR {
     const V magnitude = hn::Abs(v);
-    return hn::And(hn::Ge(magnitude, least), hn::Le(magnitude, most));
+    return hn::And(hn::Ge(magnitude, least), hn::Lt(magnitude, most));
   };
   return hn::AllTrue(d, hn::And(isOrdinary(a), isOrdinary(b)));
+#endif
 }
 
-// Where neither the operands nor the results come near the ends of the range, powers of two change
-// no bit of a quotient and need not be applied.
-struct DivideComplex {
+// Powers of two change no bit of an ordinary quotient and need not be applied.
+template <class T>
+struct ComplexQuotients {
+  const T* divisors;
+  const T* dividends;
   bool* zeroSeen;
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V a, V b) const {
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    const auto a = hn::LoadU(d, divisors + i);
+    const auto b = hn::LoadU(d, dividends + i);
     if (HWY_LIKELY(areOrdinary(d, a, b))) {
-      const V inverse = reciprocalOfPairs(d, squaredMagnitude(d, a));
-      const V quotient = hn::Mul(productWithConjugate(d, a, b), inverse);
-      const V least = hn::Set(d, Range<hn::TFromD<D>>::kLeastQuotient);
-      if (HWY_LIKELY(hn::AllTrue(d, hn::Ge(hn::Abs(quotient), least)))) return quotient;
+      const auto re = loadReal(d, divisors + i);
+      const auto im = loadImaginary(d, divisors + i);
+      const auto norm = hn::Add(hn::Mul(re, re), hn::Mul(im, im));
+      return hn::Mul(productWithConjugate(d, re, im, b), reciprocalOfPairs(d, norm));
     }
     return wideComplexQuotient(d, a, b, *zeroSeen);
   }
@@ -169,8 +187,8 @@ template <class C>
 VekStatus DivComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
   using T = decltype(dst->re);
   bool zeroSeen = false;
-  const TwoSources<DivideComplex, T> body{
-      reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2), {&zeroSeen}};
+  const ComplexQuotients<T> body{reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2),
+                                 &zeroSeen};
   produceCompact<2>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
   return divisionStatus(zeroSeen);
 }

@@ -22,9 +22,37 @@ HWY_INLINE auto narrowScaled(Pair<V> wide, int bits) {
                                      scaleTo<path, T, kHeadroom>(dw, wide.second, bits)});
 }
 
+// low - 1, but for a low of 0, where the bit is clear.
+template <class D, class V>
+HWY_INLINE V lessWhereClear(D d, V low, int bit) {
+  const V one = hn::Set(d, uint16_t{1});
+#if HWY_TARGET <= HWY_AVX3
+  const auto clear =
+      _mm512_testn_epi16_mask(low.raw, hn::Set(d, static_cast<uint16_t>(1 << bit)).raw);
+  return V{_mm512_mask_subs_epu16(low.raw, clear, low.raw, one.raw)};
+#else
+  return hn::SaturatedSub(low, hn::AndNot(hn::ShiftRightSame(low, bit), one));
+#endif
+}
+
+// Both halves of products of 16-bit lanes, rounded and narrowed to T, 1 < bits < 16. Adding one
+// half rounds ties up; one less, where the quotient is even, they go down. That touches only the
+// low half: one that is 0 is no tie. The sum does not overflow.
+template <class T, class V>
+HWY_INLINE V narrowRounded(V low, V high, int bits) {
+  const hn::ScalableTag<T> d;
+  const hn::ScalableTag<uint16_t> du;
+  const hn::ScalableTag<typename Widening<T>::Wide> dw;
+  const V below = hn::BitCast(d, lessWhereClear(du, hn::BitCast(du, low), bits));
+  const auto wide = zip<typename Widening<T>::Wide>(d, below, high);
+  const auto half = hn::Set(dw, typename Widening<T>::Wide{1} << (bits - 1));
+  return narrowBlocks<T>(shiftRight(dw, hn::Add(wide.first, half), bits),
+                         shiftRight(dw, hn::Add(wide.second, half), bits));
+}
+
 template <>
 struct ScaledOperation<Mul> {
-  static constexpr bool kIsLight = false;
+  static constexpr bool kIsLight = true;
   template <class T>
   static constexpr int kMagnitudeOf = 2 * kMagnitude<T>;
 
@@ -33,6 +61,11 @@ struct ScaledOperation<Mul> {
     using T = hn::TFromD<D>;
     const auto scaledProduct = [bits](auto fullA, auto fullB) HWY_ATTR {
       const hn::ScalableTag<T> full;
+      if constexpr (path == ScalePath::kRound && sizeof(T) == 2) {
+        if (bits < 16) {
+          return narrowRounded<T>(hn::Mul(fullA, fullB), hn::MulHigh(fullA, fullB), bits);
+        }
+      }
       return narrowScaled<path, T, std::is_signed_v<T>>(Widening<T>::multiply(full, fullA, fullB),
                                                         bits);
     };
@@ -152,10 +185,13 @@ struct ScaledOperation<MulUnsigned> : ScaledOperation<Mul> {
   HWY_INLINE V operator()(ScalePathTag<path> /*path*/, D d, int bits, V a, V b) const {
     const auto scaledProduct = [bits](auto fullA, auto fullB) HWY_ATTR {
       const hn::ScalableTag<int16_t> full;
+      const auto low = hn::Mul(fullA, fullB);
       const auto high =
           hn::Add(hn::MulHigh(fullA, fullB), hn::And(hn::BroadcastSignBit(fullA), fullB));
-      return narrowScaled<path, int16_t, false>(zip<int32_t>(full, hn::Mul(fullA, fullB), high),
-                                                bits);
+      if constexpr (path == ScalePath::kRound) {
+        if (bits < 16) return narrowRounded<int16_t>(low, high, bits);
+      }
+      return narrowScaled<path, int16_t, false>(zip<int32_t>(full, low, high), bits);
     };
     return onFullVectors(d, scaledProduct, a, b);
   }

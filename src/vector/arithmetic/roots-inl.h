@@ -6,6 +6,7 @@
 #define VEKS_VECTOR_ARITHMETIC_ROOTS_INL_H
 #endif
 
+#include "core/square_root-inl.h"
 #include "vector/arithmetic/complex_quotients-inl.h"
 #include "vector/arithmetic/exact_root.h"
 
@@ -17,10 +18,20 @@ HWY_INLINE VekStatus rootStatus(bool negativeSeen) {
   return negativeSeen ? vekWrnSqrtNegArg : vekStsOk;
 }
 
-struct SquareRoot {
+// With AVX-512, every fourth vector goes to the divider, which works beside the multipliers.
+template <class T>
+struct SquareRoots {
+  const T* src;
   bool* negativeSeen;
-  template <class D, class V>
-  HWY_INLINE V operator()(D d, V v) const {
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    const auto v = hn::LoadU(d, src + i);
+#if HWY_TARGET <= HWY_AVX3
+    constexpr size_t kLanes = MaxLanes(D());
+    if constexpr (kLanes * sizeof(T) == 64) {
+      if (i % (4 * kLanes) >= kLanes && HWY_LIKELY(areRefinable(v))) return refinedRoot(d, v);
+    }
+#endif
     *negativeSeen |= !hn::AllFalse(d, hn::Lt(v, hn::Zero(d)));
     return hn::Sqrt(v);
   }
@@ -29,7 +40,7 @@ struct SquareRoot {
 template <class T>
 VekStatus SqrtOne(const T* src, T* dst, size_t n) {
   bool negativeSeen = false;
-  produceCompact(OneSource<SquareRoot, T>{src, {&negativeSeen}}, dst, n, src == dst);
+  produceCompact(SquareRoots<T>{src, &negativeSeen}, dst, n, src == dst);
   return rootStatus(negativeSeen);
 }
 
@@ -71,8 +82,100 @@ VekStatus SqrtScaled(const S* src, T* dst, size_t n, int scaleFactor) {
   return rootStatus(negativeSeen);
 }
 
+// Roots of 64-bit integers, shifted to the left by an even number of bits before or scaled on the
+// path kRound after. What is shifted stays below 2^63; from `limit` on, every result saturates.
+//
+// The root in double lies within 2^-20 of the exact one, and less 2^-18, so that its nearest
+// integer is never too large and too small by one at most. The square of a number in the middle of
+// two is no integer. For kRound, a bit below the unit tells whether there is a rest: 2 root - 1, 2
+// root or 2 root + 1.
+template <ScalePath path>
+struct LongRoots {
+  const int64_t* src;
+  int64_t limit;
+  int bits;
+  bool* negativeSeen;
+
+  template <class D>
+  HWY_INLINE auto operator()(D d, size_t i) const {
+    return inParts<int64_t>(d, i, [this](auto dPart, size_t k) HWY_ATTR {
+      using T = hn::TFromD<decltype(dPart)>;
+      const hn::Rebind<int64_t, decltype(dPart)> di;
+      const hn::RebindToUnsigned<decltype(di)> du;
+      const auto root = scaledRoots<T>(di, hn::LoadU(di, src + k));
+      if constexpr (sizeof(T) == 8) {
+        return root;
+      } else {
+        const hn::RebindToUnsigned<decltype(dPart)> duPart;
+        return hn::BitCast(dPart, hn::TruncateTo(duPart, hn::BitCast(du, root)));
+      }
+    });
+  }
+
+ private:
+  template <class T, class D, class V>
+  HWY_INLINE V scaledRoots(D di, V v) const {
+    const hn::RebindToFloat<D> dd;
+    const hn::RebindToUnsigned<D> du;
+    const hn::Repartition<uint32_t, D> dw;
+    const V zero = hn::Zero(di);
+    *negativeSeen |= !hn::AllFalse(di, hn::Lt(v, zero));
+    V x = hn::Min(hn::Max(v, zero), hn::Set(di, limit));
+    if constexpr (path == ScalePath::kShiftLeft) x = shiftLeft(di, x, bits);
+    const auto low = hn::Sub(rootOfIntegers(dd, hn::ConvertTo(dd, x)), hn::Set(dd, 0x1p-18));
+    // The sum has the nearest integer in its lowest bits.
+    const auto sum = hn::BitCast(du, hn::Add(low, hn::Set(dd, 0x1p52)));
+    const auto root = hn::And(sum, hn::Set(du, 0xFFFFFFFFu));
+    const auto square = hn::MulEven(hn::BitCast(dw, root), hn::BitCast(dw, root));
+    const V signedRoot = hn::BitCast(di, root);
+    const V rest = hn::Sub(x, hn::BitCast(di, square));
+    V result;
+    if constexpr (path == ScalePath::kRound) {
+      const V twice =
+          hn::Sub(hn::Add(signedRoot, signedRoot), hn::VecFromMask(di, hn::Gt(rest, zero)));
+      const V exact = hn::Add(twice, hn::VecFromMask(di, hn::Gt(zero, rest)));
+      result = scaleTo<path, T, true>(di, exact, bits);
+    } else {
+      result = incrementWhere(di, hn::Gt(rest, signedRoot), signedRoot);
+    }
+    return saturateTo<T>(di, result);
+  }
+
+  template <class D, class V>
+  static HWY_INLINE V rootOfIntegers(D dd, V v) {
+#if HWY_TARGET <= HWY_AVX3
+    if constexpr (MaxLanes(D()) == 8) {
+      const auto x = approximateRoot(dd, hn::Max(v, hn::Set(dd, 0x1p-40)));
+      return correctedRoot(v, x.root, x.halfInverse);
+    }
+#endif
+    (void)dd;
+    return hn::Sqrt(v);
+  }
+};
+
+template <ScalePath path, class T>
+VekStatus sqrtLong(const int64_t* src, T* dst, size_t n, int64_t limit, int bits) {
+  bool negativeSeen = false;
+  const void* const out = dst;
+  produceCompact<1, true>(LongRoots<path>{src, limit, bits, &negativeSeen}, dst, n, out == src);
+  return rootStatus(negativeSeen);
+}
+
 template <class T>
 VekStatus SqrtLongScaled(const int64_t* src, T* dst, size_t n, int scaleFactor) {
+  constexpr int64_t kMax = std::numeric_limits<int64_t>::max();
+  if (scaleFactor == 0) return sqrtLong<ScalePath::kSaturate>(src, dst, n, kMax, 0);
+  // Roots are below 2^32.
+  if (scaleFactor > 0) {
+    const int bits = 1 + (scaleFactor < 33 ? scaleFactor : 33);
+    return sqrtLong<ScalePath::kRound>(src, dst, n, kMax, bits);
+  }
+  if constexpr (sizeof(T) == 2) {
+    const int bits = 2 * (scaleFactor < -16 ? 16 : -scaleFactor);
+    const int64_t limit = (int64_t{1} << 30 >> bits) + 1;
+    return sqrtLong<ScalePath::kShiftLeft>(src, dst, n, limit, bits);
+  }
   bool negativeSeen = false;
   for (size_t i = 0; i < n; ++i) {
     negativeSeen |= src[i] < 0;

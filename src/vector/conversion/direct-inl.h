@@ -21,6 +21,15 @@ struct Converted {
   }
 };
 
+#if HWY_TARGET <= HWY_AVX2
+// Lanes of float come from double in half vectors. Putting two together takes a shuffle, of which
+// each conversion has one already.
+template <>
+struct ProducedTag<Converted<double>, float> {
+  using Type = hn::Half<hn::ScalableTag<float>>;
+};
+#endif
+
 template <class S, class T>
 VekStatus Convert(const S* src, T* dst, size_t n) {
   produce(Converted<S>{src}, dst, n, areSame(src, dst));
