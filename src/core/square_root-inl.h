@@ -37,13 +37,17 @@ struct RootAndHalfInverse {
 };
 
 template <class D, class V>
-HWY_INLINE RootAndHalfInverse<V> approximateRoot(D d, V v) {
+HWY_INLINE RootAndHalfInverse<V> approximateRoot(D d, V v, V inverse) {
   const V half = hn::Set(d, static_cast<hn::TFromD<D>>(0.5));
-  const V inverse = approximateInverseRoot(v);
   const V root = hn::Mul(v, inverse);
   const V halfInverse = hn::Mul(inverse, half);
   const V error = hn::NegMulAdd(root, halfInverse, half);
   return {hn::MulAdd(root, error, root), hn::MulAdd(halfInverse, error, halfInverse)};
+}
+
+template <class D, class V>
+HWY_INLINE RootAndHalfInverse<V> approximateRoot(D d, V v) {
+  return approximateRoot(d, v, approximateInverseRoot(v));
 }
 
 // root + (v - root^2) / (2 root) with one rounding, the difference being exact.
@@ -52,7 +56,8 @@ HWY_INLINE V correctedRoot(V v, V root, V halfInverse) {
   return hn::MulAdd(hn::NegMulAdd(root, root, v), halfInverse, root);
 }
 
-// Every significand, with exponents of both parities, has been tried.
+// Every significand, with exponents of both parities, has been tried, with inverses that are off by
+// up to 2^-14: this and the next function do not rely on the way a processor approximates.
 template <class D>
 HWY_INLINE Floats refinedRoot(D d, Floats v) {
   const auto x = approximateRoot(d, v);
@@ -64,7 +69,7 @@ HWY_INLINE Floats refinedRoot(D d, Floats v) {
 // inverse, below 2.8u, the second misses r by d e + d^2 / 2r before it rounds. A rounding can only
 // go wrong if r is as close to the middle m between two doubles, so that d is u. But v - m^2 is a
 // multiple k u^2 of u^2, k = 7 modulo 8 because m / u is odd, so r is |k| u^2 / 2r away from m:
-// more, except for k = -1 and, near v = 4, 7 and -9. These few v have been tried.
+// more, except for k = -1 and, near v = 4, 7 and -9. These few v have been tried in the same way.
 template <class D>
 HWY_INLINE Doubles refinedRoot(D d, Doubles v) {
   const auto x = approximateRoot(d, v);

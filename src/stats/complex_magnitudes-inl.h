@@ -8,6 +8,7 @@
 #endif
 
 #include "core/reduce-inl.h"
+#include "core/square_root-inl.h"
 #include "stats/terms-inl.h"
 #include "veks/types.h"
 
@@ -17,23 +18,16 @@ HWY_BEFORE_NAMESPACE();
 namespace veks {
 namespace HWY_NAMESPACE {
 
-// The root of x, correctly rounded if x is 0 or at least 2^-102 and not infinite: Newton steps for
-// the root and half of its inverse, then the remainder of the root's square, which is exact there.
-// All of these x have been tried, with inverses that are off by up to 2^-14. `inverse` exceeds
+// The root of x, correctly rounded if x is 0 or at least 2^-102 and not infinite. `inverse` exceeds
 // kMostInverse after a smaller x, infinity gives NaN.
 constexpr float kMostInverse = 0x1p50F;
 
 template <class D, class V = hn::Vec<D>>
-HWY_INLINE V refinedRoot(D d, V x, V& inverse) {
-  const V half = hn::Set(d, 0.5F);
-  const V y = hn::IfThenElseZero(hn::Gt(x, hn::Zero(d)), hn::ApproximateReciprocalSqrt(x));
+HWY_INLINE V rootNotingInverse(D d, V x, V& inverse) {
+  const V y = hn::IfThenElseZero(hn::Gt(x, hn::Zero(d)), approximateInverseRoot(x));
   inverse = hn::Max(inverse, y);
-  const V root = hn::Mul(x, y);
-  const V halfInverse = hn::Mul(y, half);
-  const V error = hn::NegMulAdd(halfInverse, root, half);
-  const V nearRoot = hn::MulAdd(root, error, root);
-  const V remainder = hn::NegMulAdd(nearRoot, nearRoot, x);
-  return hn::MulAdd(hn::MulAdd(halfInverse, error, halfInverse), remainder, nearRoot);
+  const auto approximate = approximateRoot(d, x, y);
+  return correctedRoot(x, approximate.root, approximate.halfInverse);
 }
 
 // Elements of which two vectors of each part are loaded, as many as 16-bit lanes.
@@ -71,7 +65,7 @@ struct PairedMagnitudes {
     const V first = SquareTerm()(part, difference(z.first...));
     const V second = SquareTerm()(part, difference(z.second...));
     sum.first = hn::Add(sum.first, hn::Sqrt(first));
-    sum.second = hn::Add(sum.second, refinedRoot(part, second, sum.inverse));
+    sum.second = hn::Add(sum.second, rootNotingInverse(part, second, sum.inverse));
   }
   HWY_INLINE void merge(Sum& sum, const Sum& other) const {
     sum.first = hn::Add(sum.first, other.first);

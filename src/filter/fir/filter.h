@@ -30,9 +30,6 @@ constexpr size_t kTileBytes = 4096;
 template <class T>
 constexpr size_t kTile = kTileBytes / sizeof(T);
 
-// Fewer products are summed one by one.
-constexpr size_t kFewTaps = 12;
-
 template <class T>
 inline void addProduct(T tap, T x, T* sum) {
   *sum += tap * x;
@@ -279,20 +276,31 @@ inline VekStatus firFilterInPlace(Data* srcDst, int numIters, Handle* handle, in
   return status;
 }
 
+// How many of the older samples of a result are taken by vectors. A vector with a sample in it that
+// a call has just stored by itself, masked or not, can only be loaded when that has reached the
+// cache, after all that the call before still computes. Up to some length it is faster to leave the
+// last ones out, one product at a time, and to take whole vectors of the others. Complex products
+// are too slow for that.
+template <class T>
+inline size_t takenByVectors(size_t older) {
+  constexpr size_t kFew = 12;
+  constexpr size_t kMany = 256;
+  constexpr size_t kRecent = 8;
+  constexpr size_t kWhole = 64 / sizeof(T);
+  if (LanesOf<T>::kLanes == 2 || older >= kMany) return older < kFew ? 0 : older;
+  return older < kRecent ? 0 : (older - kRecent) / kWhole * kWhole;
+}
+
 // The result of a sample that the history does not have yet.
 template <class T>
 inline T resultOf(const FirFloatState<T>& state, const T* history, T sample) {
   const size_t older = state.taps() - 1;
   const T* const taps = state.reversedTaps;
   T sum = {};
-  if (older + 1 >= kFewTaps) {
-    // Without the newest one: what has just been stored by itself is slow to load with others.
-    sumProducts(taps, older, history + 1, &sum, 1);
-    addProduct(taps[older], sample, &sum);
-  } else {
-    addProduct(taps[older], sample, &sum);
-    for (size_t k = older; k > 0; --k) addProduct(taps[k - 1], history[k], &sum);
-  }
+  size_t k = takenByVectors<T>(older);
+  if (k != 0) sumProducts(taps, k, history + 1, &sum, 1);
+  for (; k < older; ++k) addProduct(taps[k], history[1 + k], &sum);
+  addProduct(taps[older], sample, &sum);
   return sum;
 }
 

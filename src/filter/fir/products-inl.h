@@ -210,36 +210,43 @@ VekStatus FirProduct(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_RE
   constexpr size_t kSums = 4;
   using V = hn::Vec<decltype(d)>;
   const size_t n = tapsLen * kParts;
-  // Of complex values, the products of like parts and of unlike parts.
-  V sums[kSums][kParts];
-  for (auto& sum : sums) {
-    for (V& part : sum) part = hn::Zero(d);
-  }
-  const auto add = [&](V(&sum)[kParts], V tap, V x) HWY_ATTR {
-    sum[0] = hn::MulAdd(tap, x, sum[0]);
-    if constexpr (kParts == 2) sum[1] = hn::MulAdd(tap, hn::Reverse2(d, x), sum[1]);
+  // Of complex values, the products of like parts and of unlike parts. The loops are unrolled so
+  // that the sums stay in registers.
+  V like[kSums];
+  V unlike[kSums];
+  HWY_UNROLL(4)
+  for (size_t s = 0; s < kSums; ++s) like[s] = unlike[s] = hn::Zero(d);
+  const auto add = [&](size_t s, V tap, V x) HWY_ATTR __attribute__((always_inline)) {
+    like[s] = hn::MulAdd(tap, x, like[s]);
+    if constexpr (kParts == 2) unlike[s] = hn::MulAdd(tap, hn::Reverse2(d, x), unlike[s]);
   };
   size_t i = 0;
   for (; i + kSums * kLanes <= n; i += kSums * kLanes) {
+    HWY_UNROLL(4)
     for (size_t s = 0; s < kSums; ++s) {
-      add(sums[s], hn::LoadU(d, taps + i + s * kLanes), hn::LoadU(d, window + i + s * kLanes));
+      add(s, hn::LoadU(d, taps + i + s * kLanes), hn::LoadU(d, window + i + s * kLanes));
     }
   }
-  for (size_t s = 0; i + kLanes <= n; i += kLanes, ++s) {
-    add(sums[s], hn::LoadU(d, taps + i), hn::LoadU(d, window + i));
+  HWY_UNROLL(4)
+  for (size_t s = 0; s < kSums - 1; ++s) {
+    if (i + kLanes > n) continue;
+    add(s, hn::LoadU(d, taps + i), hn::LoadU(d, window + i));
+    i += kLanes;
   }
   if (i < n) {
-    add(sums[kSums - 1], loadPartial(d, taps + i, n - i), loadPartial(d, window + i, n - i));
+    add(kSums - 1, loadPartial(d, taps + i, n - i), loadPartial(d, window + i, n - i));
   }
+  HWY_UNROLL(4)
   for (size_t s = 1; s < kSums; ++s) {
-    for (size_t p = 0; p < kParts; ++p) sums[0][p] = hn::Add(sums[0][p], sums[s][p]);
+    like[0] = hn::Add(like[0], like[s]);
+    if constexpr (kParts == 2) unlike[0] = hn::Add(unlike[0], unlike[s]);
   }
   if constexpr (kParts == 2) {
-    const V real = hn::OddEven(hn::Neg(sums[0][0]), sums[0][0]);
+    const V real = hn::OddEven(hn::Neg(like[0]), like[0]);
     dst[0] = hn::GetLane(hn::SumOfLanes(d, real));
-    dst[1] = hn::GetLane(hn::SumOfLanes(d, sums[0][1]));
+    dst[1] = hn::GetLane(hn::SumOfLanes(d, unlike[0]));
   } else {
-    dst[0] = hn::GetLane(hn::SumOfLanes(d, sums[0][0]));
+    dst[0] = hn::GetLane(hn::SumOfLanes(d, like[0]));
   }
   return vekStsOk;
 }
