@@ -79,11 +79,15 @@ HWY_INLINE bool wantsStreaming(const T* dst, size_t n, bool inPlace) {
   return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && !inPlace && aligned;
 }
 
+// What a body reads besides the destination competes with what is prefetched for that.
+template <class Body>
+constexpr bool kReadsTwoVectors = false;
+
 // Vectors in place that no cache holds: their lines are asked for more than a page before they are
 // needed, because the processor's own prefetching stops at the end of a page.
-template <class T>
+template <class Body, class T>
 HWY_INLINE bool wantsPrefetching(size_t n, bool inPlace) {
-  if (HWY_TARGET == HWY_EMU128) return false;
+  if (HWY_TARGET == HWY_EMU128 || kReadsTwoVectors<Body>) return false;
   return HWY_UNLIKELY(n * sizeof(T) >= streamingBytes) && inPlace;
 }
 
@@ -118,7 +122,7 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n, bool inPlace) {
   hn::StoreU(aligned, d, dst + i);
   i += kLanes;
   if constexpr (stores == Stores::kCached) {
-    if (wantsPrefetching<T>(n, inPlace)) i = producePrefetched(body, dst, i, n);
+    if (wantsPrefetching<Body, T>(n, inPlace)) i = producePrefetched(body, dst, i, n);
   }
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) {
     store<stores>(d, body(d, i), dst + i);
@@ -194,7 +198,7 @@ HWY_INLINE void produceCompact(const Body& body, T* dst, size_t n, bool inPlace)
     for (; i + kLanes < n; i += kLanes) hn::Stream(body(d, i), d, dst + i);
     hwy::FlushStream();
   } else {
-    if (!kIsSlow && wantsPrefetching<T>(n, inPlace)) i = producePrefetched(body, dst, i, n);
+    if (!kIsSlow && wantsPrefetching<Body, T>(n, inPlace)) i = producePrefetched(body, dst, i, n);
     for (; i + kLanes < n; i += kLanes) hn::StoreU(body(d, i), d, dst + i);
   }
   hn::StoreU(last, d, dst + n - kLanes);
@@ -226,6 +230,9 @@ struct TwoSources {
     return f(d, hn::LoadU(d, src1 + i), hn::LoadU(d, src2 + i));
   }
 };
+
+template <class F, class T>
+constexpr bool kReadsTwoVectors<TwoSources<F, T>> = true;
 
 template <class F, class T>
 struct SourceAndConstant {
