@@ -44,7 +44,7 @@ void checkCorrectlyRounded(VekStatus (*out)(const T*, T*, int), const std::vecto
   for (size_t i = 0; i < src.size(); ++i) expected[i] = std::sqrt(src[i]);
   std::vector<T> dst(src.size());
   onEveryTarget([&] {
-    for (size_t skipped : {0, 16}) {
+    for (size_t skipped : {size_t{0}, size_t{16}}) {
       const int len = static_cast<int>(src.size() - skipped);
       std::fill(dst.begin(), dst.end(), T{-1});
       ASSERT_EQ(out(src.data() + skipped, dst.data() + skipped, len), vekStsOk);
