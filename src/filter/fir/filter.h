@@ -169,11 +169,12 @@ inline void filterDirectly(State* state, const Data* src, Data* dst, size_t n, i
   });
 }
 
-// A frame of `samples` samples: tapsLen - 1 that it shares with the one before, and the new ones. A
-// null source stands for samples that are in the thread's frame already.
+// A frame of `samples` samples: those that it shares with the one before, and the new ones. A null
+// source stands for samples that are in the thread's frame already. The thread's next frame is at
+// `next`.
 template <class T, class Data>
 inline VekStatus filterFrame(const FirFloatState<T>& state, const Data* src, size_t samples,
-                             Data* dst, int thread, int scaleFactor) {
+                             const Data* next, Data* dst, int thread, int scaleFactor) {
   using Fft = FirFft<T>;
   const FirTransform<T>& transform = state.transform;
   const size_t length = static_cast<size_t>(transform.length);
@@ -187,10 +188,21 @@ inline VekStatus filterFrame(const FirFloatState<T>& state, const Data* src, siz
     if (src != nullptr) load(src, frame, samples);
     std::fill(frame + samples, frame + length, T{});
   }
+  const size_t shared = transform.sharedSamples(state.taps());
+  if (transform.convolution != nullptr) {
+    if constexpr (std::is_same_v<T, Data>) {
+      if (samples == length) {
+        transform.convolve(whole, next, shared, dst, thread);
+        return vekStsOk;
+      }
+    }
+    transform.convolve(frame, frame, shared, frame, thread);
+    store(frame, dst, samples - shared, scaleFactor);
+    return vekStsOk;
+  }
   VekStatus status = Fft::forward(whole, frame, transform.context, work);
   if (status == vekStsOk) status = Fft::multiply(transform.spectrum, frame, transform.length);
   if (status == vekStsOk) status = Fft::inverse(frame, frame, transform.context, work);
-  const size_t shared = state.taps() - 1;
   if (status == vekStsOk) store(frame + shared, dst, samples - shared, scaleFactor);
   return status;
 }
@@ -200,25 +212,31 @@ inline VekStatus filterByTransforms(FirFloatState<T>* state, const Data* src, Da
                                     int scaleFactor) {
   const FirTransform<T>& transform = state->transform;
   const size_t length = static_cast<size_t>(transform.length);
-  const size_t shared = state->taps() - 1;
+  const size_t shared = transform.sharedSamples(state->taps());
   const size_t step = length - shared;
   T* const firstFrame = transform.frame(0);
-  std::copy(state->history() + 1, state->history() + state->taps(), firstFrame);
+  const size_t older = state->taps() - 1;
+  std::fill(firstFrame, firstFrame + (shared - older), T{});
+  std::copy(state->history() + 1, state->history() + state->taps(), firstFrame + (shared - older));
   load(src, firstFrame + shared, step);
-  const VekStatus first = filterFrame<T, Data>(*state, nullptr, length, dst, 0, scaleFactor);
+  const auto frameAt = [&](size_t frame) { return src + (frame * step - shared); };
+  const VekStatus first =
+      filterFrame<T, Data>(*state, nullptr, length, frameAt(1), dst, 0, scaleFactor);
   moveHistory(state, src, n);
   if (first != vekStsOk) return first;
   const size_t frames = (n - 1) / step;  // that are left
-  const auto filterNth = [&](size_t frame, int thread) {
-    const size_t start = (frame + 1) * step;
+  const auto filterNth = [&](size_t frame, size_t next, int thread) {
+    const size_t start = frame * step;
     const size_t samples = shared + std::min(step, n - start);
-    return filterFrame(*state, src + (start - shared), samples, dst + start, thread, scaleFactor);
+    return filterFrame(*state, frameAt(frame), samples, frameAt(std::min(next, frames)),
+                       dst + start, thread, scaleFactor);
   };
   const auto filterEvery = [&](int thread, int threads) {
     VekStatus status = vekStsOk;
-    for (size_t i = static_cast<size_t>(thread); i < frames && status == vekStsOk;
-         i += static_cast<size_t>(threads)) {
-      status = filterNth(i, thread);
+    const size_t stride = static_cast<size_t>(threads);
+    for (size_t i = 1 + static_cast<size_t>(thread); i <= frames && status == vekStsOk;
+         i += stride) {
+      status = filterNth(i, i + stride, thread);
     }
     transform.statuses[thread] = status;
   };

@@ -5,7 +5,10 @@
 #include <algorithm>
 
 #include "filter/fir/layout.h"
+#include "filter/fir/samples.h"
 #include "filter/fir/team.h"
+#include "transform/fft/convolution.h"
+#include "veks/core/services.h"
 #include "veks/transform/fft.h"
 #include "veks/transform/packed.h"
 #include "veks/vector/arithmetic/products.h"
@@ -68,8 +71,12 @@ struct FirFft<Vek64fc> {
 template <class T>
 struct FirTransform {
   using Fft = FirFft<T>;
+  using Lane = typename LanesOf<T>::Lane;
+  using Convolution = FftConvolution<Lane>;
+  static constexpr bool kConvolves = LanesOf<T>::kLanes == 2;
 
   typename Fft::Context* context;  // null for nothing
+  Convolution* convolution;  // null where forward and inverse transforms go one after the other
   int32_t length;
   int32_t workSize;
   int32_t threads;
@@ -83,16 +90,33 @@ struct FirTransform {
     int k = 2;
     while ((int64_t{1} << k) <= tapsLen) ++k;
     constexpr int kInverseByN = 2;
-    const VekStatus status = Fft::initAlloc(&context, k + 1, kInverseByN, vekAlgHintNone);
+    VekStatus status = Fft::initAlloc(&context, k + 1, kInverseByN, vekAlgHintNone);
     if (status != vekStsOk) return status;
     length = int32_t{1} << (k + 1);
     threads = largestTeam();
-    return Fft::getBufSize(context, &workSize);
+    Fft::getBufSize(context, &workSize);
+    if constexpr (kConvolves) {
+      status = makeConvolution(k + 1, &convolution);
+      if (status != vekStsOk) release();
+      if (convolution != nullptr) {
+        const size_t bytes = convolution->workElements * sizeof(Lane);
+        workSize = std::max(workSize, static_cast<int32_t>(bytes));
+      }
+    }
+    return status;
   }
 
   void release() {
     if (context != nullptr) Fft::release(context);
     context = nullptr;
+    if (convolution != nullptr) veksFree(convolution);
+    convolution = nullptr;
+  }
+
+  // The samples that a frame shares with the one before. Convolutions discard whole rows.
+  size_t sharedSamples(size_t tapsLen) const {
+    const size_t multiple = convolution == nullptr ? 1 : convolution->columns;
+    return (tapsLen - 1 + multiple - 1) / multiple * multiple;
   }
 
   void takePieces(Layout* layout) {
@@ -114,14 +138,32 @@ struct FirTransform {
   // After an error the filter does without.
   VekStatus setTaps(const T* taps, size_t tapsLen) {
     if (context == nullptr) return vekStsOk;
-    std::copy(taps, taps + tapsLen, spectrum);
-    std::fill(spectrum + tapsLen, spectrum + length, T{});
-    const VekStatus status = Fft::forward(spectrum, spectrum, context, workOf(0));
-    if (status != vekStsOk) release();
+    T* const natural = convolution == nullptr ? spectrum : frame(0);
+    std::copy(taps, taps + tapsLen, natural);
+    std::fill(natural + tapsLen, natural + length, T{});
+    const VekStatus status = Fft::forward(natural, natural, context, workOf(0));
+    if (status != vekStsOk) {
+      release();
+    } else if constexpr (kConvolves) {
+      if (convolution != nullptr) arrangeSpectrum(*convolution, lanes(natural), lanes(spectrum));
+    }
     return status;
   }
 
+  // The results of `length` samples from `shared` on, which may take the place of the samples.
+  // Those of the thread's next frame are at `next`.
+  void convolve(const T* samples, const T* next, size_t shared, T* results, int thread) const {
+    convolution->kernel(*convolution, lanes(spectrum), lanes(samples), lanes(next), lanes(results),
+                        shared / convolution->columns, reinterpret_cast<Lane*>(workOf(thread)));
+  }
+
  private:
+  static Lane* lanes(T* samples) {
+    return reinterpret_cast<Lane*>(samples);
+  }
+  static const Lane* lanes(const T* samples) {
+    return reinterpret_cast<const Lane*>(samples);
+  }
   // Threads do not share cache lines.
   size_t workStride() const {
     return (static_cast<size_t>(workSize) + 63) / 64 * 64;

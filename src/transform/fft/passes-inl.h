@@ -70,21 +70,39 @@ struct StridedRows {
 template <size_t n>
 using Constant = std::integral_constant<size_t, n>;
 
-// One transform of R points from rows in, in + step, ... to rows out, out + outStep, ...; with the
-// factors at w, if there are any.
-template <size_t R, class D, class Source, class Step, class Destination, class OutStep, class T>
+// Twiddle factors: each the same for all lanes, or a vector of them.
+template <class T>
+struct ScalarFactors {
+  const T* w;
+  template <class D>
+  HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t i) const {
+    return {hn::Set(d, w[2 * i]), hn::Set(d, w[2 * i + 1])};
+  }
+};
+
+template <class T>
+struct VectorFactors {
+  const T* w;
+  template <class D>
+  HWY_INLINE Parts<hn::Vec<D>> load(D d, size_t i) const {
+    const T* const at = w + i * 2 * MaxLanes(D());
+    return {hn::LoadU(d, at), hn::LoadU(d, at + MaxLanes(D()))};
+  }
+};
+
+// One transform of R points from rows in, in + step, ... to rows out, out + outStep, ...; with
+// factors, if there are any.
+template <size_t R, class D, class Source, class Step, class Destination, class OutStep,
+          class Factors>
 HWY_INLINE void transformRows(D d, const Source& source, size_t in, Step step,
                               const Destination& destination, size_t out, OutStep outStep,
-                              const T* w) {
+                              const Factors& factors) {
   const auto from = source.template inSteps<R>(in, step);
   const auto to = destination.template inSteps<R>(out, outStep);
   constexpr size_t kQuarter = HWY_MAX(R / 4, 1);
   Parts<hn::Vec<D>> x[R];
   Twiddled<R>::run(
-      d, x,
-      [&](size_t i) HWY_ATTR __attribute__((always_inline)) {
-        return Parts<hn::Vec<D>>{hn::Set(d, w[2 * i]), hn::Set(d, w[2 * i + 1])};
-      },
+      d, x, [&](size_t i) HWY_ATTR __attribute__((always_inline)) { return factors.load(d, i); },
       [&](auto j) HWY_ATTR __attribute__((always_inline)) {
         each<R / kQuarter>([&](auto q) HWY_ATTR __attribute__((always_inline)) {
           x[j + q * kQuarter] = from.load(d, j + q * kQuarter);
@@ -109,19 +127,21 @@ HWY_INLINE void transformRows(D d, const Source& source, size_t in, Step step,
 // From this size on, lines to be written are asked for ahead.
 constexpr size_t kFarBytes = size_t{16} << 10;
 
-// The first pass, of radix R, over n rows: without factors.
+// The first pass, of radix R, over n rows: without factors. Parts of n / R rows are `outStep` rows
+// apart in the destination.
 template <size_t R, class D, class Source, class Destination>
-HWY_NOINLINE void firstPass(D d, const Source& source, const Destination& destination, size_t n) {
+HWY_NOINLINE void firstPass(D d, const Source& source, const Destination& destination, size_t n,
+                            size_t outStep) {
   const size_t step = n / R;
   const bool isFar = destination.bytes(n) >= kFarBytes;
   for (size_t p = 0; p < step; ++p) {
     // Rows that are a power of two apart share few sets of lines of the first cache: 16 of them
     // would displace each other.
     if (R <= 8 && isFar) {
-      const auto ahead = destination.template inSteps<R>(p + 2, step);
+      const auto ahead = destination.template inSteps<R>(p + 2, outStep);
       each<R>([&](auto r) HWY_ATTR __attribute__((always_inline)) { ahead.prefetch(d, r); });
     }
-    transformRows<R>(d, source, p, step, destination, p, step);
+    transformRows<R>(d, source, p, step, destination, p, outStep);
   }
 }
 
@@ -130,7 +150,7 @@ template <size_t R, class D, class T, size_t kStride>
 HWY_NOINLINE void pass(D d, const WorkRows<T, kStride>& work, size_t base, size_t n, const T* w) {
   const size_t step = n / R;
   for (size_t p = base; p < base + step; ++p) {
-    transformRows<R>(d, work, p, step, work, p, step, w);
+    transformRows<R>(d, work, p, step, work, p, step, ScalarFactors<T>{w});
   }
 }
 
@@ -140,7 +160,7 @@ template <size_t R, class D, class T, size_t kStride>
 HWY_NOINLINE void lastPass(D d, const WorkRows<T, kStride>& work, size_t base, size_t n,
                            const T* w) {
   for (size_t in = base; in < base + n; in += R, w += 2 * Twiddled<R>::kFactors) {
-    transformRows<R>(d, work, in, Constant<1>(), work, in, Constant<1>(), w);
+    transformRows<R>(d, work, in, Constant<1>(), work, in, Constant<1>(), ScalarFactors<T>{w});
   }
 }
 
@@ -151,7 +171,7 @@ HWY_NOINLINE void lastPassTo(D d, const WorkRows<T, kStride>& work, const Destin
   const size_t groups = passes.length / R;
   for (size_t group = 0; group < groups; ++group, w += 2 * Twiddled<R>::kFactors) {
     transformRows<R>(d, work, group * R, Constant<1>(), destination, passes.firstOfGroup[group],
-                     groups, w);
+                     groups, ScalarFactors<T>{w});
   }
 }
 
@@ -187,9 +207,9 @@ HWY_INLINE void firstPasses(D d, const Source& source, const WorkRows<T, kStride
   const size_t n = passes.length;
   const size_t part = n / passes.radices[0];
   if (passes.radices[0] == 16) {
-    firstPass<16>(d, source, work, n);
+    firstPass<16>(d, source, work, n, part);
   } else {
-    firstPass<8>(d, source, work, n);
+    firstPass<8>(d, source, work, n, part);
   }
   if (passes.count == 2) return laterPasses(d, work, 0, n, withLast, part, passes);
   for (size_t i = 0; i < n; i += part) laterPasses(d, work, i, part, withLast, part, passes);

@@ -36,13 +36,12 @@ size_t firstFrequency(size_t group, const uint8_t* radices, int count) {
   return frequency;
 }
 
-// How many factors a transform of `radix` points has whose value j is to be multiplied by w^j.
+}  // namespace
+
 size_t factorCount(size_t radix, bool isFused) {
   return isFused ? radix / 2 : radix - 1;
 }
 
-// Factor i of them for w = exp(-2 pi i k / n): powers of w from 1 on or, for butterflies of two,
-// m = 2, 4, ... radix, first w^(radix/m), times exp(-2 pi i j / m) for each j < m/4.
 template <class T>
 void storeTwiddleFactor(size_t i, size_t radix, bool isFused, size_t k, size_t n, T* re, T* im) {
   if (!isFused) return storeUnitRoot((i + 1) * k % n, n, T{1}, re, im);
@@ -93,6 +92,13 @@ void makePasses(size_t length, bool isFused, ColumnPasses<T>* passes, Arena* are
     }
   }
 }
+
+template void storeTwiddleFactor(size_t, size_t, bool, size_t, size_t, float*, float*);
+template void storeTwiddleFactor(size_t, size_t, bool, size_t, size_t, double*, double*);
+template void makePasses(size_t, bool, ColumnPasses<float>*, Arena*);
+template void makePasses(size_t, bool, ColumnPasses<double>*, Arena*);
+
+namespace {
 
 // For each row and the first columns, as many as there are lanes: what lane j of the vector for the
 // row in lane l holds.

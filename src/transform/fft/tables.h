@@ -31,6 +31,17 @@ class Arena {
   size_t used_ = 0;
 };
 
+// How many factors a transform of `radix` points has whose value j is to be multiplied by w^j.
+size_t factorCount(size_t radix, bool isFused);
+
+// Factor i of them for w = exp(-2 pi i k / n): powers of w from 1 on or, for butterflies of two,
+// m = 2, 4, ... radix, first w^(radix/m), times exp(-2 pi i j / m) for each j < m/4.
+template <class T>
+void storeTwiddleFactor(size_t i, size_t radix, bool isFused, size_t k, size_t n, T* re, T* im);
+
+template <class T>
+void makePasses(size_t length, bool isFused, ColumnPasses<T>* passes, Arena* arena);
+
 // The tables of a plan of this shape: their sizes, and their contents unless the arena counts.
 template <class T>
 void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena);
