@@ -74,7 +74,7 @@ inline Block blockOf(T val) {
       sizeof(T) == 1, uint8_t,
       std::conditional_t<sizeof(T) == 2, uint16_t,
                          std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
-  constexpr size_t kParts = sizeof(T) / sizeof(Bits);
+  constexpr size_t kParts = sizeof(T) > 8 ? 2 : 1;
   Bits bits[kParts];
   std::memcpy(bits, &val, sizeof(val));
   if constexpr (kParts == 1) {

@@ -28,7 +28,7 @@ HWY_NOINLINE void sortFew(uint8_t* p, size_t n) {
 
 // Adds the counts of at most kMostCounted elements. Neighbours go to tables in turn: a counter that
 // is incremented twice in a row waits for itself.
-constexpr size_t kMostCounted = 8 * 65535;
+constexpr size_t kMostCounted = size_t{8} * 65535;
 HWY_NOINLINE void countBytes(const uint8_t* p, size_t n, uint32_t* totals) {
   constexpr size_t kTables = 8;
   uint16_t counts[kTables][256] = {};

@@ -26,17 +26,20 @@ struct ConvolutionPlan : FftConvolution<T> {
     const size_t factors = fusesTwiddles ? radix / 2 : radix - 1;
     return inverseTwiddles[i] + 2 * factors * part * column;
   }
-  // Consecutive rows that the passes after the first keep to: blocks of as many rows as lanes.
+  // The passes after the first keep to units of consecutive rows: blocks of as many rows as lanes.
+  size_t units() const {
+    const size_t radix = passes.radices[0];
+    return rows / radix >= lanes ? radix : 1;
+  }
   size_t unitRows() const {
-    const size_t part = rows / passes.radices[0];
-    return part >= lanes ? part : rows;
+    return rows / units();
   }
   // A row after each unit, because units a power of two apart would share lines of the first cache.
   size_t unitStep() const {
     return unitRows() + 1;
   }
   size_t neededElements() const {
-    return 2 * this->columns * (rows / unitRows() * unitStep());
+    return 2 * this->columns * units() * unitStep();
   }
 };
 

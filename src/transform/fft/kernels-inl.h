@@ -61,7 +61,7 @@ HWY_INLINE void transformBlock(D d, const Row& row, const T* w, T factor,
         const T* const at = w + i * 2 * kLanes;
         return Parts<V>{hn::LoadU(d, at), hn::LoadU(d, at + kLanes)};
       },
-      [&](auto i) HWY_ATTR __attribute__((always_inline)) {
+      [&]([[maybe_unused]] auto i) HWY_ATTR __attribute__((always_inline)) {
         if constexpr (kTakesTurns) square(i);
       },
       [&](auto r) HWY_ATTR __attribute__((always_inline)) {
