@@ -168,17 +168,24 @@ inline int32_t complexWorkSize(const FftPlan<T>& plan) {
   return workSizeFor(uint64_t{plan.workElements} * sizeof(T) + Arena::kAlignment);
 }
 
+// Out of line, so that short transforms do not save the registers that this one needs.
+template <class T>
+[[gnu::noinline]] VekStatus runWithWork(const FftDirection<T>& direction, const T* re, const T* im,
+                                        T* dstRe, T* dstIm, Vek8u* buffer, int workSize) {
+  const size_t needed = direction.plan->workElements * sizeof(T);
+  const WorkMemory work(buffer, static_cast<size_t>(workSize), needed);
+  if (work.failed()) return vekErrMemAllocTooSmall;
+  direction.kernel(direction, re, im, dstRe, dstIm, static_cast<T*>(work.get()));
+  return vekStsOk;
+}
+
 template <class T>
 inline VekStatus runPlan(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe,
                          T* dstIm, Vek8u* buffer, int workSize) {
-  const size_t elements = direction.plan->workElements;
-  if (elements == 0) {
-    direction.kernel(direction, re, im, dstRe, dstIm, nullptr);
-    return vekStsOk;
+  if (direction.plan->workElements != 0) {
+    return runWithWork(direction, re, im, dstRe, dstIm, buffer, workSize);
   }
-  const WorkMemory work(buffer, static_cast<size_t>(workSize), elements * sizeof(T));
-  if (work.failed()) return vekErrMemAllocTooSmall;
-  direction.kernel(direction, re, im, dstRe, dstIm, static_cast<T*>(work.get()));
+  direction.kernel(direction, re, im, dstRe, dstIm, nullptr);
   return vekStsOk;
 }
 

@@ -11,6 +11,7 @@
 #endif
 
 #include "transform/fft/lanes-inl.h"
+#include "transform/fft/pairs32-inl.h"
 #include "transform/fft/passes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -283,6 +284,14 @@ void RunSmallPairs(const FftDirection<T>& direction, const T* re, const T* /*im*
   transformSmallPairs<kRows, kColumns, Ends::kIsInverse>(d, re, dstRe, direction.twiddles);
 }
 
+#if HWY_TARGET == HWY_AVX3
+template <class T>
+void RunPairsOf32(const FftDirection<T>& direction, const T* re, const T* /*im*/, T* dstRe,
+                  T* /*dstIm*/, T* /*work*/) {
+  transformPairsOf32(re, dstRe, direction.factor, direction.twiddles);
+}
+#endif
+
 template <class Ends, size_t kColumns, class T = typename Ends::Value>
 void RunMedium(const FftDirection<T>& direction, const T* re, const T* im, T* dstRe, T* dstIm,
                T* work) {
@@ -384,6 +393,14 @@ FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
             1,
             kFusesTwiddles,
             kColumnLayout<Ends::kLayout>};
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (kLanes == 16 && Ends::kLayout == Layout::kInterleaved) {
+    if (order == 5) {
+      shape->size = FftSize::kPairsOf32;
+      return &RunPairsOf32<T>;
+    }
+  }
+#endif
   switch (order) {
     case 0:
       return &RunPoint<Ends>;

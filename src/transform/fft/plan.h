@@ -37,7 +37,8 @@ struct FftDirection {
   FftKernel<T> kernel;
   const FftPlan<T>* plan;
   T factor;
-  // The twiddle factors of rows and columns, times the factor in transforms of pairs.
+  // The twiddle factors of rows and columns, times the factor in transforms of pairs, but those of
+  // 32, which take it on their way.
   const T* twiddles;
 };
 
@@ -75,7 +76,7 @@ struct FftPlan {
   FftDirection<T> inverse;
 };
 
-enum class FftSize { kSmallPairs, kSmall, kMediumOnStack, kMedium, kLong };
+enum class FftSize { kPairsOf32, kSmallPairs, kSmall, kMediumOnStack, kMedium, kLong };
 
 // How a kernel wants a transform to be factored.
 struct FftShape {

@@ -69,22 +69,32 @@ void Tangle(const T* w, T first, T middle, const T* from, T* to, size_t m) {
   to[1] = T{0.5} * (first - middle);
 }
 
+template <class D, class V>
+HWY_INLINE V exchangedPairs(D /*d*/, V v) {
+  if constexpr (sizeof(hn::TFromD<D>) == 8) {
+    return hn::SwapAdjacentBlocks(v);
+  } else {
+    return hn::Shuffle1032(v);
+  }
+}
+
 // Eight values in whole vectors of two: the transform that follows would wait for smaller pieces.
 // The loads stay within values 1 to 7.
-inline void TangleEight(const float* /*w*/, float first, float middle, const float* from, float* to,
-                        size_t /*m*/) {
-  const hn::FixedTag<float, 4> d;
+template <class T>
+void TangleEight(const T* /*w*/, T first, T middle, const T* from, T* to, size_t /*m*/) {
+  const hn::FixedTag<T, 4> d;
   using V = hn::Vec<decltype(d)>;
   // conj v, the real parts twice, then the imaginary ones with both signs
-  constexpr float s1 = 0.19134171618254488586f;  // sin(pi/8) / 2
-  constexpr float s2 = 0.35355339059327376220f;
-  constexpr float s3 = 0.46193976625564337806f;
-  HWY_ALIGN static constexpr float kRe[16] = {0,     0,     -s1, -s1, -s2, -s2, -s3, -s3,
-                                              -0.5f, -0.5f, -s3, -s3, -s2, -s2, -s1, -s1};
-  HWY_ALIGN static constexpr float kIm[16] = {-0.5f, 0.5f, -s3, s3,  -s2, s2,  -s1, s1,
-                                              0,     0,    s1,  -s1, s2,  -s2, s3,  -s3};
-  const V half = hn::Set(d, 0.5f);
-  const V signs = hn::OddEven(hn::Set(d, -0.0f), hn::Zero(d));
+  constexpr T s1 = static_cast<T>(0.19134171618254488586);  // sin(pi/8) / 2
+  constexpr T s2 = static_cast<T>(0.35355339059327376220);
+  constexpr T s3 = static_cast<T>(0.46193976625564337806);
+  constexpr T s4 = static_cast<T>(0.5);
+  HWY_ALIGN static constexpr T kRe[16] = {0,   0,   -s1, -s1, -s2, -s2, -s3, -s3,
+                                          -s4, -s4, -s3, -s3, -s2, -s2, -s1, -s1};
+  HWY_ALIGN static constexpr T kIm[16] = {-s4, s4, -s3, s3,  -s2, s2,  -s1, s1,
+                                          0,   0,  s1,  -s1, s2,  -s2, s3,  -s3};
+  const V half = hn::Set(d, s4);
+  const V signs = hn::OddEven(hn::Neg(hn::Zero(d)), hn::Zero(d));
   const V v12 = hn::LoadU(d, from + 2);
   const V v67 = hn::LoadU(d, from + 12);
   const V v23 = hn::LoadU(d, from + 4);
@@ -94,14 +104,14 @@ inline void TangleEight(const float* /*w*/, float first, float middle, const flo
   const auto combined = [&](V a, V mirrored, size_t k) HWY_ATTR __attribute__((always_inline)) {
     const V b = hn::Xor(mirrored, signs);
     const V o = hn::Sub(a, b);
-    const V turned = hn::Mul(hn::Shuffle2301(o), hn::Load(d, kIm + 2 * k));
+    const V turned = hn::Mul(exchanged(d, o), hn::Load(d, kIm + 2 * k));
     return hn::MulAdd(half, hn::Add(a, b), hn::MulAdd(o, hn::Load(d, kRe + 2 * k), turned));
   };
-  const V v21 = hn::Shuffle1032(v12);
+  const V v21 = exchangedPairs(d, v12);
   const V sum = hn::Mul(half, hn::Add(hn::Set(d, first), hn::Xor(hn::Set(d, middle), signs)));
   hn::StoreU(hn::ConcatUpperLower(d, combined(v21, v67, 0), sum), d, to);
-  hn::StoreU(combined(v23, hn::Shuffle1032(v56), 2), d, to + 4);
-  hn::StoreU(combined(v45, hn::Shuffle1032(v34), 4), d, to + 8);
+  hn::StoreU(combined(v23, exchangedPairs(d, v56), 2), d, to + 4);
+  hn::StoreU(combined(v45, exchangedPairs(d, v34), 4), d, to + 8);
   hn::StoreU(combined(v67, v21, 6), d, to + 12);
 }
 
@@ -110,8 +120,8 @@ VekStatus BindRealFft(int order, RealFftPlan<T>* plan) {
   plan->lanes = MaxLanes(hn::ScalableTag<T>());
   plan->untangle = &Untangle<T>;
   plan->tangle = &Tangle<T>;
-  if constexpr (sizeof(T) == sizeof(float)) {
-    if (order == 4) plan->tangle = &TangleEight;
+  if constexpr (HWY_MAX_BYTES >= 4 * sizeof(T)) {
+    if (order == 4) plan->tangle = &TangleEight<T>;
   }
   return vekStsOk;
 }

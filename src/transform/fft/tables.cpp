@@ -127,23 +127,52 @@ void fillBlock(const FftShape& shape, size_t firstRow, T* w) {
   }
 }
 
-// A square as before for `lanes` pairs: the real parts twice, then the imaginary parts with both
-// signs.
+// exp(-2 pi i k / n) times the factor as products of pairs take it, or its conjugate: the real part
+// twice, the imaginary part with both signs.
+template <class T>
+void storePairFactor(size_t k, size_t n, T factor, bool isInverse, T* real, T* imaginary) {
+  T re;
+  T im;
+  storeUnitRoot(k, n, factor, &re, &im);
+  real[0] = real[1] = re;
+  imaginary[0] = isInverse ? im : -im;
+  imaginary[1] = -imaginary[0];
+}
+
+// A square as before for `lanes` pairs.
 template <class T>
 void fillSquareOfPairs(const FftShape& shape, size_t firstRow, size_t firstColumn, T factor,
                        bool isInverse, T* w) {
   const size_t n = shape.rows * shape.columns;
   for (size_t row = firstRow; row < firstRow + shape.lanes; ++row, w += 4 * shape.lanes) {
     for (size_t j = 0; j < shape.lanes; ++j) {
-      T re;
-      T im;
-      storeUnitRoot(row * (firstColumn + j), n, factor, &re, &im);
-      w[2 * j] = w[2 * j + 1] = re;
-      T* const imaginary = w + 2 * shape.lanes + 2 * j;
-      imaginary[0] = isInverse ? im : -im;
-      imaginary[1] = -imaginary[0];
+      T* const real = w + 2 * j;
+      storePairFactor(row * (firstColumn + j), n, factor, isInverse, real, real + 2 * shape.lanes);
     }
   }
+}
+
+// The factors of transforms of 32 pairs: a quarter of a turn times the factor of the transform,
+// only its imaginary part, then the twiddle factors of the butterflies.
+template <class T>
+const T* makeTwiddlesOf32(T factor, bool isInverse, Arena* arena) {
+  constexpr size_t kLanes = 16;
+  constexpr size_t kStages = 5;
+  T* const twiddles = arena->take<T>((1 + 2 * kStages) * kLanes);
+  if (arena->isCounting()) return nullptr;
+  for (size_t j = 0; j < kLanes / 2; ++j) {
+    const size_t i = j / 2;
+    const size_t powers[kStages] = {4 * i, 2 * i, 2 * i + 8, j, j + 8};
+    T* to = twiddles + 2 * j;
+    T unused[2];
+    storePairFactor(1, 4, factor, isInverse, unused, to);
+    to += kLanes;
+    for (const size_t power : powers) {
+      storePairFactor(power, 32, T{1}, isInverse, to, to + kLanes);
+      to += 2 * kLanes;
+    }
+  }
+  return twiddles;
 }
 
 // The factors of all rows and columns of transforms of pairs, of the rows of others; of long ones
@@ -202,6 +231,11 @@ void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena) {
   plan->workElements = 0;
   plan->forward.plan = plan;
   plan->inverse.plan = plan;
+  if (shape.size == FftSize::kPairsOf32) {
+    plan->forward.twiddles = makeTwiddlesOf32(plan->forward.factor, false, arena);
+    plan->inverse.twiddles = makeTwiddlesOf32(plan->inverse.factor, true, arena);
+    return;
+  }
   if (shape.columns == 1) return;
   const bool isLong = shape.size == FftSize::kLong;
   const bool inPairs = shape.size == FftSize::kSmallPairs;
