@@ -44,6 +44,11 @@ struct NormalisedPairs {
 };
 
 template <class T>
+constexpr bool kDivides<NormalisedReals<T>> = true;
+template <class T>
+constexpr bool kDivides<NormalisedPairs<T>> = true;
+
+template <class T>
 VekStatus Normalise(const T* src, T* dst, size_t n, T sub, T div) {
   produce(NormalisedReals<T>{src, sub, div}, dst, n, src == dst);
   return vekStsOk;

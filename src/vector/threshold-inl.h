@@ -114,6 +114,9 @@ struct Inverted {
   }
 };
 
+template <>
+constexpr bool kDivides<Inverted<double>> = true;
+
 // dst[i] = level if src[i] OP level, else src[i]
 template <VekCmpOp op, class T>
 VekStatus Limit(const T* src, T* dst, size_t n, T level) {

@@ -50,6 +50,18 @@ HWY_INLINE V narrowRounded(V low, V high, int bits) {
                          shiftRight(dw, hn::Add(wide.second, half), bits));
 }
 
+// The same for one bit. Only an odd quotient, and none that is saturated below, goes up.
+template <class T, class V>
+HWY_INLINE V narrowHalved(V low, V high) {
+  const hn::ScalableTag<T> d;
+  using Wide = typename Widening<T>::Wide;
+  const auto wide = zip<Wide>(d, low, high);
+  using V32 = decltype(wide.first);
+  const V quotient =
+      Widening<T>::narrow(Pair<V32>{hn::ShiftRight<1>(wide.first), hn::ShiftRight<1>(wide.second)});
+  return hn::SaturatedAdd(quotient, lowestOfBoth(d, quotient, low));
+}
+
 template <>
 struct ScaledOperation<Mul> {
   static constexpr bool kIsLight = true;
@@ -65,6 +77,9 @@ struct ScaledOperation<Mul> {
         if (bits < 16) {
           return narrowRounded<T>(hn::Mul(fullA, fullB), hn::MulHigh(fullA, fullB), bits);
         }
+      }
+      if constexpr (path == ScalePath::kHalve && sizeof(T) == 2) {
+        return narrowHalved<T>(hn::Mul(fullA, fullB), hn::MulHigh(fullA, fullB));
       }
       return narrowScaled<path, T, std::is_signed_v<T>>(Widening<T>::multiply(full, fullA, fullB),
                                                         bits);
@@ -191,6 +206,7 @@ struct ScaledOperation<MulUnsigned> : ScaledOperation<Mul> {
       if constexpr (path == ScalePath::kRound) {
         if (bits < 16) return narrowRounded<int16_t>(low, high, bits);
       }
+      if constexpr (path == ScalePath::kHalve) return narrowHalved<int16_t>(low, high);
       return narrowScaled<path, int16_t, false>(zip<int32_t>(full, low, high), bits);
     };
     return onFullVectors(d, scaledProduct, a, b);
