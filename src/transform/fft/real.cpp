@@ -64,8 +64,8 @@ VekStatus initialise(Context** result, int order, int flag, VekHintAlgorithm hin
     freeContext(context);
     return vekErrMemAllocTooSmall;
   }
-  const uint64_t work = half->workElements;
-  context->workSize = work == 0 ? 0 : workSizeFor(work * sizeof(T) + Arena::kAlignment);
+  const uint64_t work = uint64_t{half->workElements} * sizeof(T);
+  context->workSize = work == 0 ? 0 : workSizeFor(WorkMemory::roomFor(work));
   *result = context;
   return vekStsOk;
 }
@@ -99,7 +99,7 @@ VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T
   const RealFftPlan<T>& plan = realPlanOf(context);
   // Work memory must be there before anything is written.
   const size_t needed = half.workElements * sizeof(T);
-  const WorkMemory work(buffer, static_cast<size_t>(context.workSize), needed);
+  const WorkMemory work(buffer, static_cast<size_t>(context.workSize), needed, dst);
   if (work.failed()) return vekErrMemAllocTooSmall;
   plan.tangle(plan.w, first, middle, pairs, dst, size_t{1} << half.order);
   half.inverse.kernel(half.inverse, dst, dst, dst, dst, static_cast<T*>(work.get()));
