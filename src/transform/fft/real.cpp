@@ -4,6 +4,7 @@
 
 #include "core/targets.h"
 #include "transform/fft/complex.h"
+#include "transform/fft/real_short.h"
 #include "transform/fft/roots_of_unity.h"
 
 #undef HWY_TARGET_INCLUDE
@@ -75,9 +76,10 @@ const RealFftPlan<typename Context::Value>& realPlanOf(const Context& context) {
   return *static_cast<const RealFftPlan<typename Context::Value>*>(context.tables[1]);
 }
 
-// The spectrum in Perm format, N > 1.
+// The spectrum in Perm format, N > 8. Out of line, so that short transforms do not save registers.
 template <class Context, class T>
-VekStatus toPerm(const Context& context, const T* src, T* dst, Vek8u* buffer) {
+[[gnu::noinline]] VekStatus longToPerm(const Context& context, const T* src, T* dst,
+                                       Vek8u* buffer) {
   const FftPlan<T>& half = planOf(context);
   const VekStatus status = runPlan(half.forward, src, src, dst, dst, buffer, context.workSize);
   if (status != vekStsOk) return status;
@@ -90,11 +92,19 @@ VekStatus toPerm(const Context& context, const T* src, T* dst, Vek8u* buffer) {
   return vekStsOk;
 }
 
-// The signal of a spectrum: R[0], R[N/2], and pairs[2 k] and on for R[k] and I[k], 0 < k < N/2. N
-// > 1.
+// The spectrum in Perm format, N > 1.
 template <class Context, class T>
-VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T* dst,
-                    Vek8u* buffer) {
+VekStatus toPerm(const Context& context, const T* src, T* dst, Vek8u* buffer) {
+  if (context.order > kShortRealOrder) return longToPerm(context, src, dst, buffer);
+  shortToPerm(context.order, forwardFactor(context), src, dst);
+  return vekStsOk;
+}
+
+// The signal of a spectrum: R[0], R[N/2], and pairs[2 k] and on for R[k] and I[k], 0 < k < N/2. N
+// > 8, then > 1.
+template <class Context, class T>
+[[gnu::noinline]] VekStatus longFromPairs(const Context& context, T first, T middle, const T* pairs,
+                                          T* dst, Vek8u* buffer) {
   const FftPlan<T>& half = planOf(context);
   const RealFftPlan<T>& plan = realPlanOf(context);
   // Work memory must be there before anything is written.
@@ -103,6 +113,16 @@ VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T
   if (work.failed()) return vekErrMemAllocTooSmall;
   plan.tangle(plan.w, first, middle, pairs, dst, size_t{1} << half.order);
   half.inverse.kernel(half.inverse, dst, dst, dst, dst, static_cast<T*>(work.get()));
+  return vekStsOk;
+}
+
+template <class Context, class T>
+VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T* dst,
+                    Vek8u* buffer) {
+  if (context.order > kShortRealOrder) {
+    return longFromPairs(context, first, middle, pairs, dst, buffer);
+  }
+  shortFromPairs(context.order, inverseFactor(context), first, middle, pairs, dst);
   return vekStsOk;
 }
 
