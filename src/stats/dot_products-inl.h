@@ -20,6 +20,9 @@ namespace hn = hwy::HWY_NAMESPACE;
 constexpr size_t kDotBlock = 4096;
 constexpr size_t kComplexDotBlock = 2048;  // lanes or elements of the real factor
 
+// Two loads feed one addition, so four sums hide its latency where vectors fill a line.
+constexpr size_t kShortDotWays = HWY_TARGET == HWY_AVX3 ? 4 : 8;
+
 // Sums of T of a[i] * b[i]. In single precision each product is rounded; those of floats are exact
 // in double precision.
 template <class T>
@@ -140,7 +143,7 @@ struct MixedProducts {
 template <class S, class R>
 VekStatus RealDot(const S* src1, const S* src2, size_t n, R* result) {
   const RealProducts<R> products;
-  const auto sum = reducePairwise<8, kDotBlock>(products, n, src1, src2);
+  const auto sum = reducePairwise<8, kDotBlock, kShortDotWays>(products, n, src1, src2);
   const FoldedLanes<R> parts = foldLanes(products.d, sum);
   *result = parts.even + parts.odd;
   return vekStsOk;

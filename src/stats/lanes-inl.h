@@ -90,11 +90,9 @@ HWY_INLINE void forEachBlock(size_t n, const F& f) {
   for (size_t i = 0; i < n; i += kBlock) f(i, n - i < kBlock ? n - i : kBlock);
 }
 
-// reduce() in blocks that are merged pairwise, like the additions of a binary counter: errors of
-// rounding grow with the logarithm of their number.
+// Not inlined: short vectors shall not pay for its stack frame.
 template <size_t kWays, size_t kBlock, class Reduction, class... T>
-HWY_INLINE auto reducePairwise(const Reduction& reduction, size_t n, const T*... src) {
-  if (HWY_LIKELY(n <= kBlock)) return reduce<kWays>(reduction, n, src...);
+HWY_NOINLINE auto reduceBlocks(const Reduction& reduction, size_t n, const T*... src) {
   using Sum = decltype(reduction.zero());
   Sum pending[8 * sizeof(size_t)];
   size_t block = 0;
@@ -110,6 +108,15 @@ HWY_INLINE auto reducePairwise(const Reduction& reduction, size_t n, const T*...
     if ((block >> level) % 2 == 1) reduction.merge(total, pending[level]);
   }
   return total;
+}
+
+// reduce() in blocks that are merged pairwise, like the additions of a binary counter: errors of
+// rounding grow with the logarithm of their number. A single block may have fewer ways: less to
+// merge, but no more loads on their way than the nearest cache needs.
+template <size_t kWays, size_t kBlock, size_t kSingleWays = kWays, class Reduction, class... T>
+HWY_INLINE auto reducePairwise(const Reduction& reduction, size_t n, const T*... src) {
+  if (HWY_LIKELY(n <= kBlock)) return reduce<kSingleWays>(reduction, n, src...);
+  return reduceBlocks<kWays, kBlock>(reduction, n, src...);
 }
 
 }  // namespace HWY_NAMESPACE

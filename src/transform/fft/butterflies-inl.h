@@ -124,7 +124,7 @@ HWY_INLINE V exchanged(D /*d*/, V v) {
 // first one negative.
 template <class D, class V, bool kInverse>
 HWY_INLINE Pairs<V, kInverse> times(D d, const Pairs<V, kInverse>& x, V wRe, V wIm) {
-  return {hn::MulAdd(x.v, wRe, hn::Mul(exchanged(d, x.v), wIm))};
+  return {hn::MulAdd(exchanged(d, x.v), wIm, hn::Mul(x.v, wRe))};
 }
 
 template <class D, class V, bool kInverse>
@@ -148,13 +148,12 @@ HWY_INLINE Pairs<V, kInverse> minusScaled(const Pairs<V, kInverse>& e, V c,
 template <class D, class V, bool kInverse>
 HWY_INLINE void addTurned(D d, const Pairs<V, kInverse>& a, const Pairs<V, kInverse>& b,
                           Pairs<V, kInverse>& minus, Pairs<V, kInverse>& plus) {
-  const V zero = hn::Zero(d);
-  const V sign = hn::Neg(zero);
-  const V signs = kInverse ? hn::OddEven(zero, sign) : hn::OddEven(sign, zero);
+  const V one = hn::Set(d, hn::TFromD<D>{1});
+  const V signs = kInverse ? hn::OddEven(one, hn::Neg(one)) : hn::OddEven(hn::Neg(one), one);
   const V x = a.v;
-  const V turned = hn::Xor(exchanged(d, b.v), signs);
-  minus = {hn::Add(x, turned)};
-  plus = {hn::Sub(x, turned)};
+  const V turned = exchanged(d, b.v);
+  minus = {hn::MulAdd(turned, signs, x)};
+  plus = {hn::NegMulAdd(turned, signs, x)};
 }
 
 // Replaces four values by their transform.

@@ -82,20 +82,30 @@ inline void* alignUp(void* pointer, uintptr_t alignment) {
 // Work memory of a call: the caller's buffer or an allocated one.
 class WorkMemory {
  public:
+  // What aligned work memory that is well placed takes.
+  static constexpr uint64_t roomFor(uint64_t needed) {
+    return needed + kAlignment + (needed < kLeastPlaced ? 0 : kPage);
+  }
+
   // `size` is what the caller's buffer has.
-  WorkMemory(void* buffer, size_t size, size_t needed) {
+  WorkMemory(void* buffer, size_t size, size_t needed, const void* source) {
     if (needed == 0) return;
     if (buffer == nullptr || size == 0) {
-      owned_ = allocate(needed + kAlignment);
-      memory_ = owned_ == nullptr ? nullptr : alignUp(owned_, kAlignment);
+      size = static_cast<size_t>(roomFor(needed));
+      buffer = owned_ = allocate(size);
       failed_ = owned_ == nullptr;
-      return;
+      if (failed_) return;
     }
-    // The documented sizes leave room for 16.
     memory_ = alignUp(buffer, kAlignment);
-    const size_t skipped =
-        static_cast<size_t>(static_cast<char*>(memory_) - static_cast<char*>(buffer));
-    if (skipped + needed > size) memory_ = alignUp(buffer, 16);
+    const auto left = [&] {
+      return size - static_cast<size_t>(static_cast<char*>(memory_) - static_cast<char*>(buffer));
+    };
+    // The documented sizes leave room for 16.
+    if (left() < needed) memory_ = alignUp(buffer, 16);
+    const uintptr_t distance =
+        reinterpret_cast<uintptr_t>(source) - reinterpret_cast<uintptr_t>(memory_);
+    const size_t ahead = (distance + kPlace) % kPage / kAlignment * kAlignment;
+    if (left() >= needed + ahead) memory_ = static_cast<char*>(memory_) + ahead;
   }
   ~WorkMemory() {
     if (owned_ != nullptr) veksFree(owned_);
@@ -112,6 +122,12 @@ class WorkMemory {
 
  private:
   static constexpr size_t kAlignment = 64;
+  static constexpr size_t kPage = 4096;
+  // Rows of the source and of the work memory that share sets of the first cache displace each
+  // other, and both have their rows at multiples of pages: so much further in its page than the
+  // source, the work memory is out of the way.
+  static constexpr size_t kPlace = 3072;
+  static constexpr size_t kLeastPlaced = 4 * kPage;
   void* memory_ = nullptr;
   void* owned_ = nullptr;
   bool failed_ = false;
@@ -165,7 +181,7 @@ inline int32_t complexWorkSize(const FftPlan<T>& plan) {
   if (plan.order < 4) return 0;
   const uint64_t documented = (uint64_t{2 * sizeof(T)} << plan.order) + 16;
   if (plan.order <= 16) return static_cast<int32_t>(documented);
-  return workSizeFor(uint64_t{plan.workElements} * sizeof(T) + Arena::kAlignment);
+  return workSizeFor(WorkMemory::roomFor(uint64_t{plan.workElements} * sizeof(T)));
 }
 
 // Out of line, so that short transforms do not save the registers that this one needs.
@@ -173,7 +189,7 @@ template <class T>
 [[gnu::noinline]] VekStatus runWithWork(const FftDirection<T>& direction, const T* re, const T* im,
                                         T* dstRe, T* dstIm, Vek8u* buffer, int workSize) {
   const size_t needed = direction.plan->workElements * sizeof(T);
-  const WorkMemory work(buffer, static_cast<size_t>(workSize), needed);
+  const WorkMemory work(buffer, static_cast<size_t>(workSize), needed, re);
   if (work.failed()) return vekErrMemAllocTooSmall;
   direction.kernel(direction, re, im, dstRe, dstIm, static_cast<T*>(work.get()));
   return vekStsOk;

@@ -23,6 +23,14 @@ uint64_t valueBytes(int order) {
   return (uint64_t{2} * sizeof(Vek32f) << order) + Arena::kAlignment;
 }
 
+// The memory of one call: values in single precision, then what the inner transform is told to
+// have.
+template <class Context>
+uint64_t bytesFor(const Context& context) {
+  const uint64_t inner = uint64_t{planOf(*context.inner).workElements} * sizeof(Vek32f);
+  return valueBytes(context.order) + WorkMemory::roomFor(inner);
+}
+
 template <class Context>
 VekStatus initialise(Context** result, int order, int flag, VekHintAlgorithm hint) {
   Context* context = nullptr;
@@ -38,9 +46,7 @@ VekStatus initialise(Context** result, int order, int flag, VekHintAlgorithm hin
   context->forwardShift = flag == kForwardByN ? order : flag == kBothByRootOfN ? half : 0;
   context->inverseShift = flag == kInverseByN ? order : flag == kBothByRootOfN ? half : 0;
   context->isOddRoot = flag == kBothByRootOfN ? order % 2 : 0;
-  const uint64_t innerBytes = planOf(*context->inner).workElements * sizeof(Vek32f);
-  context->workSize =
-      order == 0 ? 0 : workSizeFor(valueBytes(order) + innerBytes + 2 * Arena::kAlignment);
+  context->workSize = order == 0 ? 0 : workSizeFor(bytesFor(*context) + Arena::kAlignment);
   context->id = Context::kId;
   *result = context;
   return vekStsOk;
@@ -83,12 +89,12 @@ void narrow(const Vek32f* src, Vek16s* dst, size_t n, int scaleFactor) {
   }
 }
 
-// The memory of one call: values in single precision, then what the inner transform needs.
 template <class Context>
 class ShortWork {
  public:
   ShortWork(const Context& context, Vek8u* buffer)
-      : work_(buffer, static_cast<size_t>(context.workSize), bytesFor(context)),
+      : work_(buffer, static_cast<size_t>(context.workSize), static_cast<size_t>(bytesFor(context)),
+              nullptr),
         innerOffset_(static_cast<size_t>(valueBytes(context.order))) {}
   bool failed() const {
     return work_.failed();
@@ -101,10 +107,6 @@ class ShortWork {
   }
 
  private:
-  static size_t bytesFor(const Context& context) {
-    return static_cast<size_t>(valueBytes(context.order)) +
-           planOf(*context.inner).workElements * sizeof(Vek32f) + Arena::kAlignment;
-  }
   WorkMemory work_;
   size_t innerOffset_;
 };

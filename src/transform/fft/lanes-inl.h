@@ -116,6 +116,9 @@ HWY_INLINE Parts<hn::Vec512<double>> unzip(hn::Vec512<double> a, hn::Vec512<doub
 template <class T, bool kExchanged>
 struct InterleavedSource {
   const T* pairs;
+  HWY_INLINE const T* at(size_t i) const {
+    return pairs + 2 * i;
+  }
   template <size_t kCount, class Step>
   HWY_INLINE auto inSteps(size_t i, Step step) const {
     const auto twice = timesStep<2>(step);
@@ -153,6 +156,9 @@ template <class T>
 struct SplitSource {
   const T* re;
   const T* im;
+  HWY_INLINE const T* at(size_t i) const {
+    return re + i;
+  }
   template <size_t kCount, class Step>
   HWY_INLINE auto inSteps(size_t i, Step step) const {
     using P = Pointers<kCount, const T, Step>;

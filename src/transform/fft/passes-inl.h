@@ -41,6 +41,9 @@ struct WorkRows {
   static constexpr size_t bytes(size_t rows) {
     return rows * kStride * sizeof(T);
   }
+  HWY_INLINE const T* start() const {
+    return first;
+  }
   template <size_t kCount, class Step>
   HWY_INLINE auto inSteps(size_t row, Step step) const {
     const auto values = timesStep<kStride>(step);
@@ -60,6 +63,9 @@ struct StridedRows {
   const Values& values;
   size_t first;
   size_t stride;
+  HWY_INLINE auto* start() const {
+    return values.at(first);
+  }
   template <size_t kCount>
   HWY_INLINE auto inSteps(size_t row, size_t step) const {
     return values.template inSteps<kCount>(first + row * stride, step * stride);
@@ -127,6 +133,15 @@ HWY_INLINE void transformRows(D d, const Source& source, size_t in, Step step,
 // From this size on, lines to be written are asked for ahead.
 constexpr size_t kFarBytes = size_t{16} << 10;
 
+// Whether rows are better taken from the last one to the first: a load waits for earlier stores
+// whose addresses differ by a multiple of a page, until all of their bits are compared.
+template <class T>
+HWY_INLINE bool followsInPage(const T* load, const T* store) {
+  constexpr uintptr_t kPage = 4096;
+  return (reinterpret_cast<uintptr_t>(store) - reinterpret_cast<uintptr_t>(load)) % kPage <
+         kPage / 2;
+}
+
 // The first pass, of radix R, over n rows: without factors. Parts of n / R rows are `outStep` rows
 // apart in the destination.
 template <size_t R, class D, class Source, class Destination>
@@ -134,11 +149,13 @@ HWY_NOINLINE void firstPass(D d, const Source& source, const Destination& destin
                             size_t outStep) {
   const size_t step = n / R;
   const bool isFar = destination.bytes(n) >= kFarBytes;
-  for (size_t p = 0; p < step; ++p) {
+  const bool descends = followsInPage(source.start(), destination.start());
+  for (size_t i = 0; i < step; ++i) {
+    const size_t p = descends ? step - 1 - i : i;
     // Rows that are a power of two apart share few sets of lines of the first cache: 16 of them
     // would displace each other.
     if (R <= 8 && isFar) {
-      const auto ahead = destination.template inSteps<R>(p + 2, outStep);
+      const auto ahead = destination.template inSteps<R>(descends ? p - 2 : p + 2, outStep);
       each<R>([&](auto r) HWY_ATTR __attribute__((always_inline)) { ahead.prefetch(d, r); });
     }
     transformRows<R>(d, source, p, step, destination, p, outStep);

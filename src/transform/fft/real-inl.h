@@ -60,6 +60,10 @@ HWY_INLINE void combine(const T* w, const T* from, T* to, size_t m) {
 template <class T>
 void Untangle(const T* w, T* values, size_t m) {
   combine<false>(w, values, values, m);
+  const T re = values[0];
+  const T im = values[1];
+  values[0] = re + im;
+  values[1] = re - im;
 }
 
 template <class T>
@@ -69,50 +73,54 @@ void Tangle(const T* w, T first, T middle, const T* from, T* to, size_t m) {
   to[1] = T{0.5} * (first - middle);
 }
 
-template <class D, class V>
-HWY_INLINE V exchangedPairs(D /*d*/, V v) {
-  if constexpr (sizeof(hn::TFromD<D>) == 8) {
-    return hn::SwapAdjacentBlocks(v);
-  } else {
-    return hn::Shuffle1032(v);
-  }
+// Few values in whole vectors of two: the transform before them, or after them, stores or loads
+// such vectors, and would wait for pieces. w has -i / 2 * exp(-2 pi i k / n) for each k < m, the
+// real part twice, then in other vectors the imaginary one with both signs, the first one negative.
+template <bool kInverse, size_t m, class V, class T>
+HWY_INLINE void combineBlocks(const T* w, V dc, const V* x, T* to) {
+  const hn::FixedTag<T, 4> d;
+  const V half = hn::Set(d, T{0.5});
+  const V conjugate = hn::OddEven(hn::Set(d, T{-1}), hn::Set(d, T{1}));
+  constexpr size_t kVectors = m / 2;
+  V y[kVectors];
+  each<kVectors>([&](auto i) HWY_ATTR __attribute__((always_inline)) {
+    const V a = x[i];
+    const V mirrored = hn::ConcatUpperLower(d, x[kVectors - 1 - i], x[(kVectors - i) % kVectors]);
+    const V e = hn::MulAdd(mirrored, conjugate, a);
+    const V o = hn::NegMulAdd(mirrored, conjugate, a);
+    const V vRe = hn::LoadU(d, w + 8 * i);
+    const V turned = hn::Mul(exchanged(d, o), hn::LoadU(d, w + 8 * i + 4));
+    const V product = kInverse ? hn::MulSub(o, vRe, turned) : hn::MulAdd(o, vRe, turned);
+    y[i] = hn::MulAdd(half, e, product);
+  });
+  y[0] = hn::ConcatUpperLower(d, y[0], dc);
+  each<kVectors>([&](auto i) HWY_ATTR
+                 __attribute__((always_inline)) { hn::StoreU(y[i], d, to + 4 * i); });
 }
 
-// Eight values in whole vectors of two: the transform that follows would wait for smaller pieces.
-// The loads stay within values 1 to 7.
-template <class T>
-void TangleEight(const T* /*w*/, T first, T middle, const T* from, T* to, size_t /*m*/) {
+template <class T, size_t m>
+void UntangleBlocks(const T* w, T* values, size_t /*m*/) {
   const hn::FixedTag<T, 4> d;
-  using V = hn::Vec<decltype(d)>;
-  // conj v, the real parts twice, then the imaginary ones with both signs
-  constexpr T s1 = static_cast<T>(0.19134171618254488586);  // sin(pi/8) / 2
-  constexpr T s2 = static_cast<T>(0.35355339059327376220);
-  constexpr T s3 = static_cast<T>(0.46193976625564337806);
-  constexpr T s4 = static_cast<T>(0.5);
-  HWY_ALIGN static constexpr T kRe[16] = {0,   0,   -s1, -s1, -s2, -s2, -s3, -s3,
-                                          -s4, -s4, -s3, -s3, -s2, -s2, -s1, -s1};
-  HWY_ALIGN static constexpr T kIm[16] = {-s4, s4, -s3, s3,  -s2, s2,  -s1, s1,
-                                          0,   0,  s1,  -s1, s2,  -s2, s3,  -s3};
-  const V half = hn::Set(d, s4);
-  const V signs = hn::OddEven(hn::Neg(hn::Zero(d)), hn::Zero(d));
-  const V v12 = hn::LoadU(d, from + 2);
-  const V v67 = hn::LoadU(d, from + 12);
-  const V v23 = hn::LoadU(d, from + 4);
-  const V v56 = hn::LoadU(d, from + 10);
-  const V v45 = hn::LoadU(d, from + 8);
-  const V v34 = hn::LoadU(d, from + 6);
-  const auto combined = [&](V a, V mirrored, size_t k) HWY_ATTR __attribute__((always_inline)) {
-    const V b = hn::Xor(mirrored, signs);
-    const V o = hn::Sub(a, b);
-    const V turned = hn::Mul(exchanged(d, o), hn::Load(d, kIm + 2 * k));
-    return hn::MulAdd(half, hn::Add(a, b), hn::MulAdd(o, hn::Load(d, kRe + 2 * k), turned));
-  };
-  const V v21 = exchangedPairs(d, v12);
-  const V sum = hn::Mul(half, hn::Add(hn::Set(d, first), hn::Xor(hn::Set(d, middle), signs)));
-  hn::StoreU(hn::ConcatUpperLower(d, combined(v21, v67, 0), sum), d, to);
-  hn::StoreU(combined(v23, exchangedPairs(d, v56), 2), d, to + 4);
-  hn::StoreU(combined(v45, exchangedPairs(d, v34), 4), d, to + 8);
-  hn::StoreU(combined(v67, v21, 6), d, to + 12);
+  hn::Vec<decltype(d)> x[m / 2];
+  each<m / 2>([&](auto i) HWY_ATTR
+              __attribute__((always_inline)) { x[i] = hn::LoadU(d, values + 4 * i); });
+  const auto turned = exchanged(d, x[0]);
+  const auto dc = hn::OddEven(hn::Sub(turned, x[0]), hn::Add(turned, x[0]));
+  combineBlocks<false, m>(w, dc, x, values);
+}
+
+// Values 0 and 1 may be missing where `from` points to.
+template <class T, size_t m>
+void TangleBlocks(const T* w, T first, T middle, const T* from, T* to, size_t /*m*/) {
+  const hn::FixedTag<T, 4> d;
+  const hn::Half<decltype(d)> dh;
+  hn::Vec<decltype(d)> x[m / 2];
+  x[0] = hn::Combine(d, hn::LoadU(dh, from + 2), hn::Zero(dh));
+  each<m / 2 - 1>([&](auto i) HWY_ATTR
+                  __attribute__((always_inline)) { x[i + 1] = hn::LoadU(d, from + 4 * (i + 1)); });
+  const auto conjugate = hn::OddEven(hn::Set(d, T{-0.5}), hn::Set(d, T{0.5}));
+  const auto dc = hn::MulAdd(hn::Set(d, middle), conjugate, hn::Set(d, T{0.5} * first));
+  combineBlocks<true, m>(w, dc, x, to);
 }
 
 template <class T>
@@ -121,7 +129,11 @@ VekStatus BindRealFft(int order, RealFftPlan<T>* plan) {
   plan->untangle = &Untangle<T>;
   plan->tangle = &Tangle<T>;
   if constexpr (HWY_MAX_BYTES >= 4 * sizeof(T)) {
-    if (order == 4) plan->tangle = &TangleEight<T>;
+    if (order == 5) {
+      plan->isInBlocks = true;
+      plan->untangle = &UntangleBlocks<T, 16>;
+      plan->tangle = &TangleBlocks<T, 16>;
+    }
   }
   return vekStsOk;
 }

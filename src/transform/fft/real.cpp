@@ -4,6 +4,7 @@
 
 #include "core/targets.h"
 #include "transform/fft/complex.h"
+#include "transform/fft/real_short.h"
 #include "transform/fft/roots_of_unity.h"
 
 #undef HWY_TARGET_INCLUDE
@@ -30,16 +31,33 @@ void fillFactors(size_t n, size_t lanes, T* w) {
   }
 }
 
+// The same for k = 0 .. n/2 - 1: a vector of two real parts, each twice, and one of the imaginary
+// parts with both signs.
+template <class T>
+void fillBlockFactors(size_t n, T* w) {
+  for (size_t k = 0; k < n / 2; ++k) {
+    T* const re = w + k / 2 * 8 + k % 2 * 2;
+    storeUnitRoot(k + n / 4, n, T{0.5}, re, re + 5);
+    re[1] = re[0];
+    re[4] = -re[5];
+  }
+}
+
 template <class T>
 RealFftPlan<T>* makeRealPlan(int order) {
   RealFftPlan<T> plan = {};
   VEKS_KERNEL(BindRealFft<T>)(order, &plan);
   const size_t n = size_t{1} << order;
-  void* const block = allocate(sizeof(plan) + Arena::kAlignment + n / 2 * sizeof(T));
+  const size_t values = plan.isInBlocks ? 2 * n : n / 2;
+  void* const block = allocate(sizeof(plan) + Arena::kAlignment + values * sizeof(T));
   if (block == nullptr) return nullptr;
   RealFftPlan<T>* const result = static_cast<RealFftPlan<T>*>(block);
   T* const w = static_cast<T*>(alignUp(result + 1, Arena::kAlignment));
-  fillFactors(n, plan.lanes, w);
+  if (plan.isInBlocks) {
+    fillBlockFactors(n, w);
+  } else {
+    fillFactors(n, plan.lanes, w);
+  }
   plan.w = w;
   *result = plan;
   return result;
@@ -64,8 +82,8 @@ VekStatus initialise(Context** result, int order, int flag, VekHintAlgorithm hin
     freeContext(context);
     return vekErrMemAllocTooSmall;
   }
-  const uint64_t work = half->workElements;
-  context->workSize = work == 0 ? 0 : workSizeFor(work * sizeof(T) + Arena::kAlignment);
+  const uint64_t work = uint64_t{half->workElements} * sizeof(T);
+  context->workSize = work == 0 ? 0 : workSizeFor(WorkMemory::roomFor(work));
   *result = context;
   return vekStsOk;
 }
@@ -75,34 +93,49 @@ const RealFftPlan<typename Context::Value>& realPlanOf(const Context& context) {
   return *static_cast<const RealFftPlan<typename Context::Value>*>(context.tables[1]);
 }
 
-// The spectrum in Perm format, N > 1.
+// The spectrum in Perm format, N > 16. Out of line, so that short transforms do not save registers.
 template <class Context, class T>
-VekStatus toPerm(const Context& context, const T* src, T* dst, Vek8u* buffer) {
+[[gnu::noinline]] VekStatus longToPerm(const Context& context, const T* src, T* dst,
+                                       Vek8u* buffer) {
   const FftPlan<T>& half = planOf(context);
   const VekStatus status = runPlan(half.forward, src, src, dst, dst, buffer, context.workSize);
   if (status != vekStsOk) return status;
   const RealFftPlan<T>& plan = realPlanOf(context);
   plan.untangle(plan.w, dst, size_t{1} << half.order);
-  const T re = dst[0];
-  const T im = dst[1];
-  dst[0] = re + im;
-  dst[1] = re - im;
+  return vekStsOk;
+}
+
+// The spectrum in Perm format, N > 1.
+template <class Context, class T>
+VekStatus toPerm(const Context& context, const T* src, T* dst, Vek8u* buffer) {
+  if (context.order > kShortRealOrder) return longToPerm(context, src, dst, buffer);
+  shortToPerm(context.order, forwardFactor(context), src, dst);
   return vekStsOk;
 }
 
 // The signal of a spectrum: R[0], R[N/2], and pairs[2 k] and on for R[k] and I[k], 0 < k < N/2. N
-// > 1.
+// > 16, then > 1.
 template <class Context, class T>
-VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T* dst,
-                    Vek8u* buffer) {
+[[gnu::noinline]] VekStatus longFromPairs(const Context& context, T first, T middle, const T* pairs,
+                                          T* dst, Vek8u* buffer) {
   const FftPlan<T>& half = planOf(context);
   const RealFftPlan<T>& plan = realPlanOf(context);
   // Work memory must be there before anything is written.
   const size_t needed = half.workElements * sizeof(T);
-  const WorkMemory work(buffer, static_cast<size_t>(context.workSize), needed);
+  const WorkMemory work(buffer, static_cast<size_t>(context.workSize), needed, dst);
   if (work.failed()) return vekErrMemAllocTooSmall;
   plan.tangle(plan.w, first, middle, pairs, dst, size_t{1} << half.order);
   half.inverse.kernel(half.inverse, dst, dst, dst, dst, static_cast<T*>(work.get()));
+  return vekStsOk;
+}
+
+template <class Context, class T>
+VekStatus fromPairs(const Context& context, T first, T middle, const T* pairs, T* dst,
+                    Vek8u* buffer) {
+  if (context.order > kShortRealOrder) {
+    return longFromPairs(context, first, middle, pairs, dst, buffer);
+  }
+  shortFromPairs(context.order, inverseFactor(context), first, middle, pairs, dst);
   return vekStsOk;
 }
 

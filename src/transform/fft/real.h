@@ -21,6 +21,7 @@ using TangleKernel = void (*)(const T* w, T first, T middle, const T* from, T* t
 template <class T>
 struct RealFftPlan {
   size_t lanes;
+  bool isInBlocks;  // each two values with factors of their own
   UntangleKernel<T> untangle;
   TangleKernel<T> tangle;
   const T* w;
