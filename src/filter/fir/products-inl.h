@@ -17,17 +17,6 @@ namespace veks {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Keeps a loaded vector in its register. The compiler would rather load it again for each of its
-// multiply-adds, but loads that cross a cache line are what limits them.
-template <class V>
-HWY_INLINE void Pin(V& v) {
-#if HWY_ARCH_X86 && HWY_TARGET != HWY_EMU128
-  asm("" : "+v"(v.raw));
-#else
-  (void)v;
-#endif
-}
-
 // One tap in all lanes, for real filters one vector, for complex ones two. Products with the latter
 // are added up apart: those with the real part of the tap and those with its imaginary part.
 template <class V, size_t kParts>
@@ -192,7 +181,7 @@ VekStatus FirProducts(const T* HWY_RESTRICT taps, size_t tapsLen, const T* HWY_R
   size_t i = 0;
 #if HWY_TARGET == HWY_AVX3
   if constexpr (kParts == 1) {
-    if (AreForPhases(d, tapsLen)) i = FilterInPhases(d, taps, tapsLen, window, dst, n);
+    i = FilterFewTaps(d, taps, tapsLen, window, dst, n);
   }
 #endif
   i = FilterWhole<kParts, kVectors, kTaps>(d, taps, tapsLen, window, dst, i, n);
