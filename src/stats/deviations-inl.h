@@ -57,11 +57,8 @@ template <class T, class S>
 HWY_INLINE void addLast(const Deviations<T>& deviations, typename Deviations<T>::Sum& sum,
                         const S* src, size_t count) {
   const hn::Rebind<S, hn::ScalableTag<T>> ds;
-  HWY_ALIGN S elements[MaxLanes(ds)];
-  hn::Store(hn::Set(ds, static_cast<S>(deviations.shift)), ds, elements);
-#pragma GCC unroll 1
-  for (size_t i = 0; i < count; ++i) elements[i] = src[i];
-  deviations.add(sum, hn::Load(ds, elements));
+  const auto shift = hn::Set(ds, static_cast<S>(deviations.shift));
+  deviations.add(sum, hn::IfThenElse(hn::FirstN(ds, count), loadPartial(ds, src, count), shift));
 }
 
 struct Moments {

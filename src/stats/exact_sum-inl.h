@@ -142,7 +142,7 @@ HWY_INLINE void addSlices(const float* src, size_t n, int top, ExactTotal& total
 }
 
 HWY_INLINE double plainSum(const float* src, size_t n) {
-  return foldDoubles(reduce<8>(LaneSums<double>(), n, src));
+  return foldDoubles(reduceShortOrLong<8>(LaneSums<double>(), n, src));
 }
 
 constexpr bool addsExactly(int top, int bottom) {

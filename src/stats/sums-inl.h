@@ -27,7 +27,8 @@ HWY_INLINE auto sumInBlocks(const float* src, size_t n) {
   const LaneSums<float> sums;
   hn::Vec<hn::ScalableTag<double>> total = hn::Zero(hn::ScalableTag<double>());
   for (size_t i = 0; i < n; i += kBlock) {
-    const auto block = reduce<8>(sums, {n - i < kBlock ? n - i : kBlock, n - i}, src + i);
+    const Piece piece = {n - i < kBlock ? n - i : kBlock, n - i};
+    const auto block = reduceShortOrLong<8>(sums, piece, src + i);
     total = hn::Add(total, foldToDoubles(sums.d, block));
   }
   return total;
