@@ -46,8 +46,8 @@ constexpr int kToInteger = -14;
 constexpr int kScale = 3;
 
 // Bytes of a vector from a call's overhead to memory, or numbers of elements: a typical vector and
-// one that fills memory, or a frame of 4096.
-enum class Sizes { kBytes, kElements, kFrame };
+// one that fills memory, a short one as well, or a frame of 4096.
+enum class Sizes { kBytes, kElements, kReductions, kFrame };
 
 // A suite whose comparisons run at such sizes.
 struct VectorSuite {

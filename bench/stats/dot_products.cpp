@@ -26,7 +26,7 @@ void addCases() {
   integerDot(VEKS_BENCH_NAMED(veksDotProd_16sc64sc));
 }
 
-const VectorSuite suite(Sizes::kElements, addCases);
+const VectorSuite suite(Sizes::kReductions, addCases);
 
 }  // namespace
 }  // namespace veks::bench

@@ -56,7 +56,7 @@ void addCases() {
   extreme<Greater>(VEKS_BENCH_NAMED(veksMaxEvery_64f_I));
 }
 
-const VectorSuite suite(Sizes::kElements, addCases);
+const VectorSuite suite(Sizes::kReductions, addCases);
 
 }  // namespace
 }  // namespace veks::bench

@@ -46,7 +46,7 @@ void addCases() {
   norm<NormL2>(VEKS_BENCH_NAMED(veksNormDiff_L2_64f));
 }
 
-const VectorSuite suite(Sizes::kElements, addCases);
+const VectorSuite suite(Sizes::kReductions, addCases);
 
 }  // namespace
 }  // namespace veks::bench

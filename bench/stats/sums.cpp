@@ -52,7 +52,7 @@ void addCases() {
   integerSum(VEKS_BENCH_NAMED(veksSum_16s32s_Sfs));
 }
 
-const VectorSuite suite(Sizes::kElements, addCases);
+const VectorSuite suite(Sizes::kReductions, addCases);
 
 }  // namespace
 }  // namespace veks::bench

@@ -65,6 +65,14 @@ template <class D, class T>
 HWY_INLINE auto loadElements(D d, const T* src, size_t count) {
   if constexpr (std::is_arithmetic_v<T>) {
     return loadPartial(hn::Rebind<T, D>(), src, count);
+  } else if constexpr (HWY_TARGET == HWY_AVX3 && sizeof(T) >= 8 &&
+                       sizeof(T) == 2 * sizeof(hn::TFromD<D>)) {
+    const hn::Rebind<decltype(src->re), D> parts;
+    constexpr size_t kLanes = MaxLanes(parts);
+    const auto low = loadPartial(parts, &src->re, HWY_MIN(2 * count, kLanes));
+    const auto high = loadPartial(parts, &src->re + kLanes, HWY_MAX(2 * count, kLanes) - kLanes);
+    return Parts<hn::Vec<decltype(parts)>>{hn::ConcatEven(parts, high, low),
+                                           hn::ConcatOdd(parts, high, low)};
   } else {
     T elements[MaxLanes(d)] = {};
 #pragma GCC unroll 1
@@ -184,6 +192,19 @@ HWY_INLINE auto reduce(const Reduction& reduction, Piece piece, const T* src,
   }
   mergeSums<kWays>(reduction, sums);
   return sums[0];
+}
+
+// reduce() with fewer ways for short vectors: there is less left over, and less to merge.
+template <size_t kWays, class Reduction, class... T>
+HWY_INLINE auto reduceShortOrLong(const Reduction& reduction, Piece piece, const T*... src) {
+  constexpr size_t kAll = kWays * MaxLanes(decltype(reduction.d)());
+  if constexpr (kWays >= 8 && HWY_TARGET != HWY_EMU128) {
+    if (piece.count < kAll) return reduce<2>(reduction, piece, src...);
+    if (piece.count < 4 * kAll) return reduce<4>(reduction, piece, src...);
+  } else if constexpr (kWays >= 4 && HWY_TARGET != HWY_EMU128) {
+    if (piece.count < kAll) return reduce<1>(reduction, piece, src...);
+  }
+  return reduce<kWays>(reduction, piece, src...);
 }
 
 }  // namespace HWY_NAMESPACE

@@ -105,6 +105,13 @@ HWY_INLINE auto foldAll(const Fold& fold, size_t n, const T* src, const Others*.
   if (n < MaxLanes(d)) {
     return foldShort(hn::Half<decltype(d)>(), fold, n, src, others...);
   }
+  if constexpr (HWY_TARGET != HWY_EMU128) {
+    if (n < 2 * MaxLanes(d)) return foldShort(d, fold, n, src, others...);
+    // Little is left to be merged.
+    if (n < kWays * MaxLanes(d)) {
+      return fold.result(d, foldVectors<2>(d, fold, n, src, others...));
+    }
+  }
   return fold.result(d, foldVectors<kWays>(d, fold, n, src, others...));
 }
 

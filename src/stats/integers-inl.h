@@ -99,7 +99,7 @@ struct SplitSums {
 template <size_t kWays, size_t kBlock, class Reduction, class... T>
 HWY_INLINE auto totalOf(const Reduction& reduction, size_t n, const T*... src) {
   size_t count = n < kBlock ? n : kBlock;
-  auto total = reduction.total(reduce<kWays>(reduction, {count, n}, src...));
+  auto total = reduction.total(reduceShortOrLong<kWays>(reduction, {count, n}, src...));
   for (size_t i = count; i < n; i += count) {
     count = n - i < kBlock ? n - i : kBlock;
     total = total + reduction.total(reduce<kWays>(reduction, {count, n - i}, (src + i)...));

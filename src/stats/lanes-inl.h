@@ -90,17 +90,6 @@ HWY_INLINE void forEachBlock(size_t n, const F& f) {
   for (size_t i = 0; i < n; i += kBlock) f(i, n - i < kBlock ? n - i : kBlock);
 }
 
-// reduce() with fewer ways for short vectors: there is less left over, and less to merge.
-template <size_t kWays, class Reduction, class... T>
-HWY_INLINE auto reduceShortOrLong(const Reduction& reduction, Piece piece, const T*... src) {
-  constexpr size_t kAll = kWays * MaxLanes(decltype(reduction.d)());
-  if constexpr (kWays >= 8 && HWY_TARGET != HWY_EMU128) {
-    if (piece.count < kAll) return reduce<2>(reduction, piece, src...);
-    if (piece.count < 4 * kAll) return reduce<4>(reduction, piece, src...);
-  }
-  return reduce<kWays>(reduction, piece, src...);
-}
-
 // Not inlined: short vectors shall not pay for its stack frame.
 template <size_t kWays, size_t kBlock, class Reduction, class... T>
 HWY_NOINLINE auto reduceBlocks(const Reduction& reduction, size_t n, const T*... src) {

@@ -99,6 +99,7 @@ struct GreatestOf {
 // count.
 constexpr size_t kColumnBytes = 512;
 constexpr size_t kFewColumnBytes = 64;
+constexpr size_t kShortColumnBytes = 128;
 
 template <size_t kWays, class Reduction, class... T>
 HWY_INLINE auto sumOfPiece(const Reduction& reduction, Piece piece, const T*... src) {
@@ -117,6 +118,9 @@ HWY_INLINE double sumOf(const Term& term, size_t n, const T* src, const Others*.
   constexpr size_t kBlock = 8 * kBytes;
   const hn::ScalableTag<Part<T>> d;
   constexpr size_t kWays = kBytes / (sizeof(Part<T>) * MaxLanes(d));
+  if constexpr (kBytes > kShortColumnBytes) {
+    if (n < kWays * MaxLanes(d)) return sumOf<kShortColumnBytes>(term, n, src, others...);
+  }
   const SumOf<decltype(d), Term> reduction = {d, term};
   double total = 0;
   for (size_t i = 0;; i += kBlock) {
