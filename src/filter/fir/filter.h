@@ -2,6 +2,7 @@
 #ifndef VEKS_FILTER_FIR_FILTER_H
 #define VEKS_FILTER_FIR_FILTER_H
 
+#include "core/targets.h"
 #include "filter/fir/make.h"
 
 namespace veks {
@@ -169,12 +170,16 @@ inline void filterDirectly(State* state, const Data* src, Data* dst, size_t n, i
   });
 }
 
+// Signals whose results take so many bytes leave the second cache before anyone reads them.
+constexpr size_t kPastCachesBytes = size_t{4} << 20;
+
 // A frame of `samples` samples: those that it shares with the one before, and the new ones. A null
 // source stands for samples that are in the thread's frame already. The thread's next frame is at
 // `next`.
 template <class T, class Data>
 inline VekStatus filterFrame(const FirFloatState<T>& state, const Data* src, size_t samples,
-                             const Data* next, Data* dst, int thread, int scaleFactor) {
+                             const Data* next, Data* dst, bool pastCaches, int thread,
+                             int scaleFactor) {
   using Fft = FirFft<T>;
   const FirTransform<T>& transform = state.transform;
   const size_t length = static_cast<size_t>(transform.length);
@@ -192,11 +197,11 @@ inline VekStatus filterFrame(const FirFloatState<T>& state, const Data* src, siz
   if (transform.convolution != nullptr) {
     if constexpr (std::is_same_v<T, Data>) {
       if (samples == length) {
-        transform.convolve(whole, next, shared, dst, thread);
+        transform.convolve(whole, next, shared, dst, pastCaches, thread);
         return vekStsOk;
       }
     }
-    transform.convolve(frame, frame, shared, frame, thread);
+    transform.convolve(frame, frame, shared, frame, false, thread);
     store(frame, dst, samples - shared, scaleFactor);
     return vekStsOk;
   }
@@ -220,8 +225,9 @@ inline VekStatus filterByTransforms(FirFloatState<T>* state, const Data* src, Da
   std::copy(state->history() + 1, state->history() + state->taps(), firstFrame + (shared - older));
   load(src, firstFrame + shared, step);
   const auto frameAt = [&](size_t frame) { return src + (frame * step - shared); };
+  const bool pastCaches = n >= std::min(kPastCachesBytes, streamingBytes) / sizeof(Data);
   const VekStatus first =
-      filterFrame<T, Data>(*state, nullptr, length, frameAt(1), dst, 0, scaleFactor);
+      filterFrame<T, Data>(*state, nullptr, length, frameAt(1), dst, pastCaches, 0, scaleFactor);
   moveHistory(state, src, n);
   if (first != vekStsOk) return first;
   const size_t frames = (n - 1) / step;  // that are left
@@ -229,7 +235,7 @@ inline VekStatus filterByTransforms(FirFloatState<T>* state, const Data* src, Da
     const size_t start = frame * step;
     const size_t samples = shared + std::min(step, n - start);
     return filterFrame(*state, frameAt(frame), samples, frameAt(std::min(next, frames)),
-                       dst + start, thread, scaleFactor);
+                       dst + start, pastCaches, thread, scaleFactor);
   };
   const auto filterEvery = [&](int thread, int threads) {
     VekStatus status = vekStsOk;
@@ -238,6 +244,7 @@ inline VekStatus filterByTransforms(FirFloatState<T>* state, const Data* src, Da
          i += stride) {
       status = filterNth(i, i + stride, thread);
     }
+    if (pastCaches) finishResults();
     transform.statuses[thread] = status;
   };
   std::fill(transform.statuses, transform.statuses + transform.threads, vekStsOk);

@@ -152,9 +152,12 @@ struct FirTransform {
 
   // The results of `length` samples from `shared` on, which may take the place of the samples.
   // Those of the thread's next frame are at `next`.
-  void convolve(const T* samples, const T* next, size_t shared, T* results, int thread) const {
-    convolution->kernel(*convolution, lanes(spectrum), lanes(samples), lanes(next), lanes(results),
-                        shared / convolution->columns, reinterpret_cast<Lane*>(workOf(thread)));
+  void convolve(const T* samples, const T* next, size_t shared, T* results, bool pastCaches,
+                int thread) const {
+    const ConvolutionEnds<Lane> ends = {lanes(samples), lanes(next), lanes(results),
+                                        shared / convolution->columns, pastCaches};
+    convolution->kernel(*convolution, lanes(spectrum), ends,
+                        reinterpret_cast<Lane*>(workOf(thread)));
   }
 
  private:

@@ -116,14 +116,12 @@ struct ResultRows {
   }
 };
 
-// The last one, from parts that are `partStep` rows apart. The samples at `next` are asked for.
+// The last one, from parts that are `partStep` rows apart.
 template <size_t R, class D, class Destination, class T, size_t kStride>
-HWY_NOINLINE void lastMergingPass(D d, const WorkRows<T, kStride>& work, size_t partStep,
-                                  const Destination& destination, size_t n, const T* w,
-                                  const T* next) {
+HWY_NOINLINE void lastMergingPass(D d, const WorkRows<const T, kStride>& work, size_t partStep,
+                                  const Destination& destination, size_t n, const T* w) {
   constexpr size_t kStep = Twiddled<R>::kFactors * 2 * MaxLanes(D());
-  for (size_t q = 0; q < n / R; ++q, w += kStep, next += R * kStride) {
-    prefetch<R * kStride, false>(next);
+  for (size_t q = 0; q < n / R; ++q, w += kStep) {
     transformRows<R>(d, work, q, partStep, destination, q, n / R, VectorFactors<T>{w});
   }
 }
@@ -150,9 +148,36 @@ HWY_INLINE void mergeUnit(D d, const ConvolutionPlan<T>& plan, size_t base, T* r
   }
 }
 
+// The last pass of the inverse transform over all columns.
+template <size_t kColumns, class D, class Destination, class T>
+HWY_INLINE void lastMergingPasses(D d, const ConvolutionPlan<T>& plan, const T* work,
+                                  const Destination& destination, size_t firstRow) {
+  constexpr size_t kLanes = MaxLanes(D());
+  const size_t radix = plan.passes.radices[0];
+  const size_t part = plan.rows / radix;
+  for (size_t t = 0; t < kColumns; t += kLanes) {
+    const WorkRows<const T, 2 * kColumns> from = {work + 2 * t};
+    const ResultRows<Destination> to = {{destination, t, kColumns}, firstRow};
+    const T* const w = plan.inverseFactors(0, t, part);
+    if (radix == 16) {
+      lastMergingPass<16>(d, from, plan.partStep(), to, plan.rows, w);
+    } else {
+      lastMergingPass<8>(d, from, plan.partStep(), to, plan.rows, w);
+    }
+  }
+}
+
+// Whether two vectors that are stored one after the other fill a line: halves of lines that meet
+// later would be written past the caches one by one.
+template <class D, class T>
+HWY_INLINE bool canStream(D /*d*/, const T* dst) {
+  constexpr size_t kLine = 64;
+  return 2 * MaxLanes(D()) * sizeof(T) >= kLine && reinterpret_cast<uintptr_t>(dst) % kLine == 0;
+}
+
 template <size_t kColumns, class D, class T>
-HWY_INLINE void convolve(D d, const ConvolutionPlan<T>& plan, const T* spectrum, const T* src,
-                         const T* next, T* dst, size_t firstRow, T* work) {
+HWY_INLINE void convolve(D d, const ConvolutionPlan<T>& plan, const T* spectrum,
+                         const ConvolutionEnds<T>& ends, T* work) {
   constexpr size_t kLanes = MaxLanes(D());
   constexpr size_t kRow = 2 * kColumns;
   using Source = InterleavedSource<T, false>;
@@ -161,48 +186,44 @@ HWY_INLINE void convolve(D d, const ConvolutionPlan<T>& plan, const T* spectrum,
   const size_t radix = passes.radices[0];
   const size_t part = plan.rows / radix;
   const size_t unit = plan.unitRows();
-  const size_t partStep = unit == part ? plan.unitStep() : part;
-  const Source source = {src};
+  const Source source = {ends.src};
   for (size_t t = 0; t < kColumns; t += kLanes) {
     const StridedRows<Source> from = {source, t, kColumns};
     const WorkRows<T, kRow> to = {work + 2 * t};
     if (radix == 16) {
-      firstPass<16>(d, from, to, plan.rows, partStep);
+      firstPass<16>(d, from, to, plan.rows, plan.partStep());
     } else {
-      firstPass<8>(d, from, to, plan.rows, partStep);
+      firstPass<8>(d, from, to, plan.rows, plan.partStep());
     }
   }
+  const bool streams = ends.pastCaches && canStream(d, ends.dst);
+  // Where the first result would be; what lies in front of dst is not stored.
+  T* const results = ends.dst - ends.firstRow * kRow;
   for (size_t base = 0; base < plan.rows; base += unit) {
     T* const rows = work + base / unit * kRow;
     for (size_t t = 0; t < kColumns; t += kLanes) {
       laterPasses(d, WorkRows<T, kRow>{rows + 2 * t}, base, unit, true, part, passes);
     }
     for (size_t k = base; k < base + unit; k += kLanes) {
-      if (k >= firstRow) prefetch<kLanes * kRow, true>(dst + (k - firstRow) * kRow);
+      prefetch<kLanes * kRow, false>(ends.next + k * kRow);
+      if (!streams && k >= ends.firstRow) prefetch<kLanes * kRow, true>(results + k * kRow);
       convolveBlock<kColumns>(d, plan.rowTwiddles + k / kLanes * blockFactors<kColumns>(d),
                               spectrum + k * kRow, rows + k * kRow);
     }
     mergeUnit<kColumns>(d, plan, base, rows);
   }
-  // Where the first result would be; what lies in front of dst is not stored.
-  const Destination destination = {dst - firstRow * kRow};
-  for (size_t t = 0; t < kColumns; t += kLanes) {
-    const WorkRows<T, kRow> from = {work + 2 * t};
-    const ResultRows<Destination> to = {{destination, t, kColumns}, firstRow};
-    const T* const w = plan.inverseFactors(0, t, part);
-    if (radix == 16) {
-      lastMergingPass<16>(d, from, partStep, to, plan.rows, w, next);
-    } else {
-      lastMergingPass<8>(d, from, partStep, to, plan.rows, w, next);
-    }
+  const Destination destination = {results};
+  if (streams) {
+    return lastMergingPasses<kColumns>(d, plan, work, destination.streaming(), ends.firstRow);
   }
+  lastMergingPasses<kColumns>(d, plan, work, destination, ends.firstRow);
 }
 
 template <class T, size_t kColumns>
-void RunConvolution(const FftConvolution<T>& convolution, const T* spectrum, const T* src,
-                    const T* next, T* dst, size_t firstRow, T* work) {
+void RunConvolution(const FftConvolution<T>& convolution, const T* spectrum,
+                    const ConvolutionEnds<T>& ends, T* work) {
   convolve<kColumns>(FftTag<T>(), static_cast<const ConvolutionPlan<T>&>(convolution), spectrum,
-                     src, next, dst, firstRow, work);
+                     ends, work);
 }
 
 // Lengths whose work memory stays in the second cache and that take two passes or more.

@@ -79,6 +79,10 @@ VekStatus bindConvolution(int order, ConvolutionPlan<Vek64f>* plan) {
 
 }  // namespace
 
+void finishResults() {
+  hwy::FlushStream();
+}
+
 template <class T>
 VekStatus makeConvolution(int order, FftConvolution<T>** result) {
   ConvolutionPlan<T> plan = {};

@@ -9,15 +9,28 @@
 
 namespace veks {
 
+// Where the N samples of a convolution are and its results go: dst takes those from sample
+// firstRow * columns on, and may be src.
+template <class T>
+struct ConvolutionEnds {
+  const T* src;
+  const T* next;  // the caches are told that these samples will follow
+  T* dst;
+  size_t firstRow;
+  bool pastCaches;  // results are better not kept in the caches, and need finishResults()
+};
+
 template <class T>
 struct FftConvolution {
-  // Convolves N samples at src. Results go to dst from that of sample firstRow * columns on; dst
-  // may be src. The caches are told that the samples at `next` will follow.
-  void (*kernel)(const FftConvolution& convolution, const T* spectrum, const T* src, const T* next,
-                 T* dst, size_t firstRow, T* work);
+  void (*kernel)(const FftConvolution& convolution, const T* spectrum,
+                 const ConvolutionEnds<T>& ends, T* work);
   size_t columns;
   size_t workElements;  // aligned to 64 bytes
 };
+
+// Other threads may be told of the results that this one has written past the caches. Not part of
+// the kernel: short frames would wait for the memory each time.
+void finishResults();
 
 // A convolution of 2^order points in a block of its own, for veksFree(); none, with status
 // vekStsOk, where there is no kernel.

@@ -38,6 +38,10 @@ struct ConvolutionPlan : FftConvolution<T> {
   size_t unitStep() const {
     return unitRows() + 1;
   }
+  // From the rows of one part of the first pass to those of the next.
+  size_t partStep() const {
+    return units() == 1 ? rows / passes.radices[0] : unitStep();
+  }
   size_t neededElements() const {
     return 2 * this->columns * units() * unitStep();
   }
