@@ -11,6 +11,7 @@
 #include "core/square_root-inl.h"
 #include "vector/magnitude-inl.h"
 #include "vector/pairs-inl.h"
+#include "vector/split_pairs-inl.h"
 #include "veks/types.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -57,6 +58,14 @@ struct InvertedPairs<float> {
     const V numbers = selectPairs(d, isZero, setPairs(d, 1 / level, 0.0f), inverse);
     return selectPairs(d, hn::Eq(magnitudes, magnitudes), numbers, x);
   }
+
+#if HWY_TARGET <= HWY_AVX3
+  SplitLevel splitLevel{level};
+
+  HWY_INLINE bool mapSplit(Floats& first, Floats& second) const {
+    return invertSplit(splitLevel, first, second);
+  }
+#endif
 };
 
 template <>

@@ -10,6 +10,7 @@
 
 #include "core/loops-inl.h"
 #include "core/power_of_two.h"
+#include "core/quotient-inl.h"
 #include "core/scale-inl.h"
 #include "veks/types.h"
 
@@ -22,10 +23,10 @@ template <class T>
 struct NormalisedReals {
   const T* src;
   T sub;
-  T div;
+  Divisor<T> divisor;
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
-    return hn::Div(hn::Sub(hn::LoadU(d, src + i), hn::Set(d, sub)), hn::Set(d, div));
+    return divisor.divide(d, hn::Sub(hn::LoadU(d, src + i), hn::Set(d, sub)));
   }
 };
 
@@ -35,28 +36,23 @@ struct NormalisedPairs {
   const T* src;
   T subRe;
   T subIm;
-  T div;
+  Divisor<T> divisor;
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
     const auto sub = hn::InterleaveLower(d, hn::Set(d, subRe), hn::Set(d, subIm));
-    return hn::Div(hn::Sub(hn::LoadU(d, src + i), sub), hn::Set(d, div));
+    return divisor.divide(d, hn::Sub(hn::LoadU(d, src + i), sub));
   }
 };
 
 template <class T>
-constexpr bool kDivides<NormalisedReals<T>> = true;
-template <class T>
-constexpr bool kDivides<NormalisedPairs<T>> = true;
-
-template <class T>
 VekStatus Normalise(const T* src, T* dst, size_t n, T sub, T div) {
-  produce(NormalisedReals<T>{src, sub, div}, dst, n, src == dst);
+  produce(NormalisedReals<T>{src, sub, Divisor<T>(div)}, dst, n, src == dst);
   return vekStsOk;
 }
 
 template <class C, class T>
 VekStatus NormaliseComplex(const C* src, C* dst, size_t n, C sub, T div) {
-  const NormalisedPairs<T> body{reinterpret_cast<const T*>(src), sub.re, sub.im, div};
+  const NormalisedPairs<T> body{reinterpret_cast<const T*>(src), sub.re, sub.im, Divisor<T>(div)};
   produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src == dst);
   return vekStsOk;
 }

@@ -12,6 +12,7 @@
 #include "core/square_root-inl.h"
 #include "vector/magnitude-inl.h"
 #include "vector/pairs-inl.h"
+#include "vector/split_pairs-inl.h"
 #include "veks/types.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -38,9 +39,22 @@ HWY_INLINE V isSquareAbove(D32 d32, V n, V q, V squares) {
   return hn::OddEven(compare(odd(n), odd(q), odd(squares)), even);
 }
 
+// level / sqrt(v) but for 2^-22 of itself. With AVX-512, divider and root are slower than this.
+template <class D, class V>
+HWY_INLINE V levelByRoot(D d, V level, V v) {
+  if constexpr (HWY_TARGET <= HWY_AVX3) {
+    const V estimate = hn::ApproximateReciprocalSqrt(v);
+    const V half = hn::Mul(estimate, hn::Set(d, 0.5F));
+    const V error = hn::NegMulAdd(hn::Mul(v, estimate), estimate, hn::Set(d, 1.0F));
+    return hn::Mul(level, hn::MulAdd(half, error, estimate));
+  } else {
+    return hn::Div(level, hn::Sqrt(v));
+  }
+}
+
 // part * level / sqrt(squares) to the nearest integer, the quotient with |part|^2 <= squares given
-// to single precision. Its integer part k is either right or too small by one; the comparison of
-// (2 part level)^2 with (2k + 1)^2 squares tells. There are no ties: where sqrt(squares) is
+// but for less than a half. Its integer part k is either right or too small by one; the comparison
+// of (2 part level)^2 with (2k + 1)^2 squares tells. There are no ties: where sqrt(squares) is
 // rational, part / sqrt(squares) has an odd denominator.
 template <class D32, class V, class VF>
 HWY_INLINE V rescaledPart(D32 d32, V part, V level, V squares, VF scale) {
@@ -75,7 +89,7 @@ struct RescaledPairs<op, int16_t> {
     const auto beyond = bound.template compareSquares<op>(d32, squares);
     if (hn::AllFalse(d32, beyond)) return x;
     const auto wide = hn::Max(hn::Abs(hn::ConvertTo(real, squares)), hn::Set(real, 1.0f));
-    const auto scale = hn::Div(hn::Set(real, level), hn::Sqrt(wide));
+    const auto scale = levelByRoot(real, hn::Set(real, level), wide);
     const auto levels = hn::Set(d32, int32_t{level});
     const auto re = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs));
     const auto im = hn::ShiftRight<16>(pairs);
@@ -125,6 +139,14 @@ struct RescaledPairs<op, float> {
     }
     return selectPairs(d, beyond, result, x);
   }
+
+#if HWY_TARGET <= HWY_AVX3
+  SplitLevel splitLevel{level};
+
+  HWY_INLINE bool mapSplit(Floats& first, Floats& second) const {
+    return rescaleSplit<op>(splitLevel, first, second);
+  }
+#endif
 };
 
 template <VekCmpOp op>

@@ -34,11 +34,78 @@ struct MappedPairs {
   }
 };
 
+template <class F, class T>
+constexpr bool kPrefetchesSource<MappedPairs<F, T>> = true;
+
+#if HWY_TARGET <= HWY_AVX3
+// Functions that try two vectors at a time first: f.mapSplit(first, second) gives the results, or
+// false and leaves both.
+template <class F>
+constexpr bool kIsSplit = false;
+template <VekCmpOp op>
+constexpr bool kIsSplit<RescaledPairs<op, float>> = true;
+template <>
+constexpr bool kIsSplit<InvertedPairs<float>> = true;
+
+template <Stores stores, class F>
+HWY_INLINE void mapTwoVectors(const F& f, const float* src, float* dst) {
+  const ManyPairs d;
+  Floats first = hn::LoadU(d, src);
+  Floats second = hn::LoadU(d, src + 16);
+  if (HWY_UNLIKELY(!f.mapSplit(first, second))) {
+    first = f(d, first);
+    second = f(d, second);
+  }
+  store<stores>(d, first, dst);
+  store<stores>(d, second, dst + 16);
+}
+
+template <Stores stores, class F>
+HWY_INLINE size_t mapTwoAhead(const F& f, const float* src, float* dst, size_t n) {
+  constexpr size_t kAhead = 80 * 16;
+  size_t i = 0;
+  for (; i + kAhead + 32 <= n; i += 32) {
+    __builtin_prefetch(src + i + kAhead, 0, 2);
+    __builtin_prefetch(src + i + kAhead + 16, 0, 2);
+    mapTwoVectors<stores>(f, src + i, dst + i);
+  }
+  if (stores == Stores::kStreaming) hwy::FlushStream();
+  return i;
+}
+
+// n floats from a boundary of the destination on, but for the last ones. Returns where it stopped.
+template <class F>
+HWY_INLINE size_t mapSplitPairs(const F& f, const float* src, float* dst, size_t n, bool inPlace) {
+  size_t i = 0;
+  if (wantsStreaming<2>(dst, n, inPlace)) {
+    i = mapTwoAhead<Stores::kStreaming>(f, src, dst, n);
+  } else if (wantsPrefetching<MappedPairs<F, float>, float>(n, inPlace)) {
+    i = mapTwoAhead<Stores::kCached>(f, src, dst, n);
+  }
+  for (; i + 32 <= n; i += 32) mapTwoVectors<Stores::kCached>(f, src + i, dst + i);
+  return i;
+}
+#endif
+
 template <class F, class C>
 HWY_INLINE VekStatus mapPairs(const F& f, const C* src, C* dst, size_t n) {
   using T = decltype(C::re);
-  const MappedPairs<F, T> body{reinterpret_cast<const T*>(src), f};
-  produce<2>(body, reinterpret_cast<T*>(dst), 2 * n, src == dst);
+  const T* from = reinterpret_cast<const T*>(src);
+  T* to = reinterpret_cast<T*>(dst);
+  n *= 2;
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (kIsSplit<F>) {
+    if (n >= 64 && f.splitLevel.isOrdinary) {
+      const size_t head = lanesToBoundary<2>(to, 16);
+      produce<2>(MappedPairs<F, T>{from, f}, to, head, src == dst);
+      const size_t done = head + mapSplitPairs(f, from + head, to + head, n - head, src == dst);
+      from += done;
+      to += done;
+      n -= done;
+    }
+  }
+#endif
+  produce<2>(MappedPairs<F, T>{from, f}, to, n, src == dst);
   return vekStsOk;
 }
 

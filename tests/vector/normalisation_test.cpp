@@ -2,7 +2,9 @@
 #include "veks/vector/normalisation.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
+#include <random>
 
 #include "support.h"
 #include "vector/check_trailing.h"
@@ -44,6 +46,44 @@ TEST(Normalise, DividesFloats) {
   checkReals<Vek64f>({veksNormalize_64f, veksNormalize_64f_I});
   checkPairs<Vek32fc>({veksNormalize_32fc, veksNormalize_32fc_I});
   checkPairs<Vek64fc>({veksNormalize_64fc, veksNormalize_64fc_I});
+}
+
+// Dividends whose quotients lie next to the middle of two numbers, zeros, and all exponents.
+template <class T>
+std::vector<T> dividendsNextToMiddles(T div) {
+  std::mt19937_64 random(5);
+  std::vector<T> all = {T{0}, -T{0}};
+  const T unit = std::numeric_limits<T>::epsilon();
+  for (int i = 0; i < 900; ++i) {
+    const auto steps = static_cast<T>(random() % 8388608);
+    const T quotient = 1 + steps * unit * (i % 2 == 0 ? 1 : static_cast<T>(0.5 / unit / 8388608));
+    const T dividend = quotient * div;
+    all.push_back(dividend + quotient * div * unit / 2);
+    all.push_back(-(quotient + quotient * unit) * div);
+  }
+  for (int e = std::numeric_limits<T>::min_exponent - 30; e < std::numeric_limits<T>::max_exponent;
+       ++e) {
+    all.push_back(std::ldexp(1 + static_cast<T>(random() % 4096) / 5000, e));
+  }
+  return all;
+}
+
+template <class T>
+void checkRounding(Forms<T, T, T> forms) {
+  const T unit = std::numeric_limits<T>::epsilon();
+  for (T div : {T{1} + unit, T{2} - unit, T{2} - 2 * unit, T(0.1), T{1e9}, T(0x1p-60), T(0x1.8p60),
+                T{-3}}) {
+    const auto divide = [=](T& x) {
+      const volatile T divisor = div;
+      x = x / divisor;
+    };
+    checkChange(forms, dividendsNextToMiddles(div), divide, T{0}, div);
+  }
+}
+
+TEST(Normalise, RoundsQuotientsCorrectly) {
+  checkRounding<Vek32f>({veksNormalize_32f, veksNormalize_32f_I});
+  checkRounding<Vek64f>({veksNormalize_64f, veksNormalize_64f_I});
 }
 
 // x / div * 2^-scaleFactor to nearest, ties to even, saturated. The limits of the exponent do not

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 
 #include "support.h"
 #include "vector/check_trailing.h"
@@ -448,6 +449,69 @@ void checkComplexInverse(Forms<C, Part<C>> ltInv, long double ulps) {
 TEST(ComplexThreshold, Inverts) {
   checkComplexInverse<Vek32fc>({veksThreshold_LTInv_32fc, veksThreshold_LTInv_32fc_I}, 0.500001L);
   checkComplexInverse<Vek64fc>({veksThreshold_LTInv_64fc, veksThreshold_LTInv_64fc_I}, 6);
+}
+
+// Finite elements around a level, whose results have to be those of double precision to the bit.
+std::vector<Vek32fc> ordinaryPairs(float level) {
+  std::mt19937_64 random(11);
+  const auto significand = [&](int kind) {
+    const auto bits = static_cast<uint32_t>(random() % (1 << 23));
+    return 1 + static_cast<float>(kind == 0   ? bits
+                                  : kind == 1 ? bits | 0x7FFFF0
+                                              : bits & 0x7FF000) *
+                   0x1p-23F;
+  };
+  std::vector<Vek32fc> all;
+  for (int i = 0; i < 4096; ++i) {
+    const int range = i % 7 == 0 ? 100 : i % 7 < 4 ? 3 : 16;
+    float parts[2];
+    for (float& part : parts) {
+      const int exponent = static_cast<int>(random() % static_cast<unsigned>(range)) - range / 2;
+      part = std::ldexp(significand(i / 16 % 3) * level, exponent);
+      if (random() % 2 == 0) part = -part;
+    }
+    if (i / 64 % 5 == 0) parts[i % 2] = std::copysign(0.0F, parts[i % 2]);
+    if (i / 32 % 5 == 1) {
+      const float angle = std::atan2(parts[0], parts[1]);
+      parts[0] = level * std::cos(angle);
+      parts[1] = level * std::sin(angle);
+    }
+    all.push_back({parts[0], parts[1]});
+  }
+  return all;
+}
+
+double squaresInDouble(Vek32fc x) {
+  const volatile double re = double{x.re} * x.re;
+  const volatile double im = double{x.im} * x.im;
+  return re + im;
+}
+
+Vek32fc scaledInDouble(Vek32fc x, double scale) {
+  return {static_cast<float>(x.re * scale), static_cast<float>(x.im * scale)};
+}
+
+TEST(ComplexThreshold, FloatsAreRoundedDoubles) {
+  for (const float level : {0.7F, 1.0F, 1e-5F, 3e8F, 1e-20F}) {
+    const std::vector<Vek32fc> pool = ordinaryPairs(level);
+    const double square = double{level} * level;
+    const auto less = [=](Vek32fc& x) {
+      const double squares = squaresInDouble(x);
+      if (squares < square) x = scaledInDouble(x, level / std::sqrt(squares));
+    };
+    const auto greater = [=](Vek32fc& x) {
+      const double squares = squaresInDouble(x);
+      if (squares > square) x = scaledInDouble(x, level / std::sqrt(squares));
+    };
+    const auto inverse = [=](Vek32fc& x) {
+      const double squares = squaresInDouble(x);
+      const volatile double product = std::sqrt(squares) * level;
+      x = scaledInDouble({x.re, -x.im}, 1 / (squares < square ? double{product} : squares));
+    };
+    checkChange(Forms{veksThreshold_LT_32fc, veksThreshold_LT_32fc_I}, pool, less, level);
+    checkChange(Forms{veksThreshold_GT_32fc, veksThreshold_GT_32fc_I}, pool, greater, level);
+    checkChange(Forms{veksThreshold_LTInv_32fc, veksThreshold_LTInv_32fc_I}, pool, inverse, level);
+  }
 }
 
 // ---- The choice of the comparison
