@@ -38,7 +38,7 @@ TEST(FirValues, OfAllLengthsOnAllTargets) {
       const std::vector<size_t> lengths = lengthsOfCalls(taps, all);
       const Stream stream(row, taps, std::accumulate(lengths.begin(), lengths.end(), size_t{0}));
       onEveryTarget([&] {
-        // Nothing is written past the caches.
+        // Nothing so short is written past the caches.
         if (streamingBytes == 0) return;
         for (State::Memory memory : kMemories) {
           const State state(stream, memory);
@@ -66,6 +66,23 @@ TEST(FirValues, OfLongCallsAndManyTaps) {
           walk.expectLine();
         }
       }
+    }
+  }
+}
+
+// Frames of transforms, through the caches and past them.
+TEST(FirValues, OfTransformsOnAllTargets) {
+  Vectors vectors;
+  for (const Row& row : rows()) {
+    if (row.transformsFrom == 0) continue;
+    for (size_t taps : {row.transformsFrom, size_t{512}}) {
+      const Stream stream(row, taps, 7000);
+      onEveryTarget([&] {
+        const State state(stream, State::Memory::kOwn);
+        Walk walk(stream, state, vectors);
+        walk.block(walk.left());
+        walk.expectLine();
+      });
     }
   }
 }
