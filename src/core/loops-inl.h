@@ -137,7 +137,7 @@ HWY_INLINE size_t produceSteps(D d, const Body& body, T* dst, size_t i, size_t n
 // From this many bytes on, steps are short. The processor prefetches a step ahead of every load,
 // past the ends too, which drives out what is used next where three vectors just fill the L1 cache
 // of 48 KiB. A tenth is lost with four vectors of 64 bytes.
-constexpr size_t kThirdOfCache = 15 * 1024;
+constexpr size_t kThirdOfCache = size_t{15} << 10;
 
 // dst[i] = body for i = 0 .. n - 1, in ascending order, n more than two vectors. The body may read
 // dst, at the same positions or at later ones: a vector that overlaps others is computed before

@@ -3,6 +3,8 @@
 #ifndef VEKS_TRANSFORM_FFT_REAL_SHORT_H
 #define VEKS_TRANSFORM_FFT_REAL_SHORT_H
 
+#include <cstddef>
+
 namespace veks {
 
 constexpr int kShortRealOrder = 4;
@@ -27,7 +29,7 @@ struct SpectrumOf8 {
 };
 
 // Of src[0], src[step] ...
-template <int step, class T>
+template <size_t step, class T>
 inline SpectrumOf8<T> spectrumOf8(const T* src) {
   const T sum04 = src[0] + src[4 * step];
   const T sum15 = src[step] + src[5 * step];
@@ -46,7 +48,7 @@ inline SpectrumOf8<T> spectrumOf8(const T* src) {
 }
 
 // To dst[0], dst[step] ...
-template <int step, class T>
+template <size_t step, class T>
 inline void storeSignalOf8(const SpectrumOf8<T>& x, T* dst) {
   const T sum = x.re0 + x.re4;
   const T difference = x.re0 - x.re4;
@@ -73,7 +75,7 @@ inline void storeSignalOf8(const SpectrumOf8<T>& x, T* dst) {
 template <class T>
 inline void storeSpectrumOf16(T factor, const SpectrumOf8<T>& even, const SpectrumOf8<T>& odd,
                               T* dst) {
-  const auto store = [=](int k, T eRe, T eIm, T oRe, T oIm) {
+  const auto store = [=](size_t k, T eRe, T eIm, T oRe, T oIm) {
     const T c = kCosines<T>[k];
     const T s = kCosines<T>[4 - k];
     const T re = c * oRe + s * oIm;
@@ -137,7 +139,7 @@ inline void shortFromPairs(int order, T factor, T first, T middle, const T* pair
   if (order == 4) {
     SpectrumOf8<T> even = {sum, twice * pairs[8], 0, 0, 0, 0, 0, 0};
     SpectrumOf8<T> odd = {difference, -twice * pairs[9], 0, 0, 0, 0, 0, 0};
-    const auto split = [=](int k, T* eRe, T* eIm, T* oRe, T* oIm) {
+    const auto split = [=](size_t k, T* eRe, T* eIm, T* oRe, T* oIm) {
       const T re = twice * (pairs[2 * k] - pairs[16 - 2 * k]);
       const T im = twice * (pairs[2 * k + 1] + pairs[17 - 2 * k]);
       const T c = kCosines<T>[k];
