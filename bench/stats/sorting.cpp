@@ -101,7 +101,8 @@ template <class T>
 void ascend(const char* name, VekStatus (*function)(T*, int)) {
   Peers<T> peers = {{"std", plain::Sort<T>::ascend}, {"vqsort", OptionalSorts<T>::ascend}};
   if constexpr (sizeof(T) < 4) peers.emplace_back("counting", plain::CountingSort<T>::ascend);
-  for (const size_t len : {8, 100, 1000, 100000, 10000000}) {
+  constexpr size_t kLengths[] = {8, 100, 1000, 100000, 10000000};
+  for (const size_t len : kLengths) {
     add(name, function, peers, len, kRandom);
   }
   for (const Pattern& pattern : kOthers) add(name, function, peers, 100000, pattern);
