@@ -19,6 +19,7 @@
 
 #include <hwy/highway.h>
 
+#include "core/reduce-inl.h"
 #include "core/targets.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -130,10 +131,9 @@ HWY_INLINE void SplitPhases(D d, const T* HWY_RESTRICT src, const size_t (&start
     HWY_UNROLL(8)
     for (size_t r = 0; r < kCount; ++r) rows[r] = hn::LoadU(d, src + starts[r] + start);
   } else {
-    const auto isThere = hn::FirstN(d, samples - start);
     HWY_UNROLL(8)
     for (size_t r = 0; r < kCount; ++r) {
-      rows[r] = hn::MaskedLoad(isThere, d, src + starts[r] + start);
+      rows[r] = loadPartial(d, src + starts[r] + start, samples - start);
     }
   }
   TransposeRows(d, rows);
