@@ -11,6 +11,7 @@
 #endif
 
 #include "transform/fft/lanes-inl.h"
+#include "transform/fft/pairs-inl.h"
 #include "transform/fft/pairs32-inl.h"
 #include "transform/fft/passes-inl.h"
 
@@ -104,39 +105,6 @@ HWY_INLINE void transformSmall(D d, const Source& source, const Destination& des
     transformBlock<kColumns, layout, true>(d, row, w + b * blockFactors<kColumns>(d),
                                            direction.factor, destination, b * kLanes,
                                            Constant<kRows>());
-  });
-}
-
-// The same on values that stay in pairs, which spares short transforms the separation of their
-// parts.
-template <size_t kRows, size_t kColumns, bool kInverse, class D, class T>
-HWY_INLINE void transformSmallPairs(D d, const T* src, T* dst, const T* w) {
-  constexpr size_t kLanes = MaxLanes(D());
-  constexpr size_t kPairs = kLanes / 2;
-  constexpr size_t kTiles = kColumns / kPairs;
-  using X = Pairs<hn::Vec<D>, kInverse>;
-  X x[kTiles * kRows];
-  each<kTiles>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
-    each<kRows>([&](auto k) HWY_ATTR __attribute__((always_inline)) {
-      x[t * kRows + k] = {hn::LoadU(d, src + 2 * k * kColumns + t * kLanes)};
-    });
-    Transform<kRows>::run(d, x + t * kRows);
-  });
-  each<kRows / kPairs>([&](auto b) HWY_ATTR __attribute__((always_inline)) {
-    X y[kColumns];
-    each<kTiles>([&](auto t) HWY_ATTR __attribute__((always_inline)) {
-      each<kPairs>([&](auto l) HWY_ATTR __attribute__((always_inline)) {
-        constexpr size_t k = b * kPairs + l;
-        const T* const at = w + ((b * kTiles + t) * kPairs + l) * 2 * kLanes;
-        const X& from = x[t * kRows + Transform<kRows>::at(k)];
-        y[t * kPairs + l] = times(d, from, hn::LoadU(d, at), hn::LoadU(d, at + kLanes));
-      });
-      transposePairs(d, y + t * kPairs);
-    });
-    Transform<kColumns>::run(d, y);
-    each<kColumns>([&](auto r) HWY_ATTR __attribute__((always_inline)) {
-      hn::StoreU(y[Transform<kColumns>::at(r)].v, d, dst + 2 * (b * kPairs + r * kRows));
-    });
   });
 }
 
@@ -284,6 +252,19 @@ void RunSmallPairs(const FftDirection<T>& direction, const T* re, const T* /*im*
   transformSmallPairs<kRows, kColumns, Ends::kIsInverse>(d, re, dstRe, direction.twiddles);
 }
 
+template <class Ends, size_t kPoints, class T = typename Ends::Value>
+void RunStraightPairs(const FftDirection<T>& direction, const T* re, const T* /*im*/, T* dstRe,
+                      T* /*dstIm*/, T* /*work*/) {
+  transformStraight<kPoints, Ends::kIsInverse>(hn::CappedTag<T, 2>(), re, dstRe, direction.factor);
+}
+
+template <class Ends, size_t kPairs, size_t kRows, class T = typename Ends::Value>
+void RunTwoColumns(const FftDirection<T>& direction, const T* re, const T* /*im*/, T* dstRe,
+                   T* /*dstIm*/, T* /*work*/) {
+  const hn::CappedTag<T, 2 * kPairs> d;
+  transformTwoColumns<kRows, Ends::kIsInverse>(d, re, dstRe, direction.factor, direction.twiddles);
+}
+
 #if HWY_TARGET == HWY_AVX3
 template <class T>
 void RunPairsOf32(const FftDirection<T>& direction, const T* re, const T* /*im*/, T* dstRe,
@@ -386,6 +367,7 @@ FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
   using T = typename Ends::Value;
   constexpr size_t kLanes = MaxLanes(FftTag<T>());
   constexpr size_t kColumns = HWY_MAX(kLanes, 8);
+  constexpr bool kInPairs = Ends::kLayout == Layout::kInterleaved && kLanes > 1;
   *shape = {FftSize::kSmall,
             Ends::kLayout,
             1,
@@ -405,12 +387,21 @@ FftKernel<typename Ends::Value> chooseKernel(int order, FftShape* shape) {
     case 0:
       return &RunPoint<Ends>;
     case 1:
+      if constexpr (kInPairs) return &RunStraightPairs<Ends, 2>;
       return &RunPair<Ends>;
     case 2:
+      if constexpr (kInPairs) return &RunStraightPairs<Ends, 4>;
       return smallKernel<Ends, 2, 2, 2>(shape);
     case 3:
+      if constexpr (kInPairs && sizeof(T) == 8) return &RunStraightPairs<Ends, 8>;
       return smallKernel<Ends, 2, 4, 2>(shape);
     case 4:
+      if constexpr (kInPairs && sizeof(T) == 8) {
+        constexpr size_t kPairs = HWY_MIN(2, kLanes / 2);
+        *shape = {FftSize::kTwoColumns,        Ends::kLayout, kPairs, 8, 2, kFusesTwiddles,
+                  kColumnLayout<Ends::kLayout>};
+        return &RunTwoColumns<Ends, kPairs, 8>;
+      }
       return smallKernel<Ends, 4, 4, 4>(shape);
     case 5:
       return smallKernel<Ends, 4, 8, 4>(shape);

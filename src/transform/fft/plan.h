@@ -76,7 +76,7 @@ struct FftPlan {
   FftDirection<T> inverse;
 };
 
-enum class FftSize { kPairsOf32, kSmallPairs, kSmall, kMediumOnStack, kMedium, kLong };
+enum class FftSize { kPairsOf32, kTwoColumns, kSmallPairs, kSmall, kMediumOnStack, kMedium, kLong };
 
 // How a kernel wants a transform to be factored.
 struct FftShape {

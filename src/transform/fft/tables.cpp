@@ -175,6 +175,19 @@ const T* makeTwiddlesOf32(T factor, bool isInverse, Arena* arena) {
   return twiddles;
 }
 
+// Those of the odd values of every row, as many rows to a vector as there are pairs.
+template <class T>
+const T* makeTwiddlesOfTwoColumns(const FftShape& shape, bool isInverse, Arena* arena) {
+  T* const twiddles = arena->take<T>(4 * shape.rows);
+  if (arena->isCounting()) return nullptr;
+  for (size_t row = 0; row < shape.rows; ++row) {
+    const size_t firstOfVector = row / shape.lanes * shape.lanes;
+    T* const real = twiddles + 4 * firstOfVector + 2 * (row - firstOfVector);
+    storePairFactor(row, 2 * shape.rows, T{1}, isInverse, real, real + 2 * shape.lanes);
+  }
+  return twiddles;
+}
+
 // The factors of all rows and columns of transforms of pairs, of the rows of others; of long ones
 // those of the first columns, to be multiplied by others.
 template <class T>
@@ -237,6 +250,11 @@ void makeTables(const FftShape& shape, FftPlan<T>* plan, Arena* arena) {
     return;
   }
   if (shape.columns == 1) return;
+  if (shape.size == FftSize::kTwoColumns) {
+    plan->forward.twiddles = makeTwiddlesOfTwoColumns<T>(shape, false, arena);
+    plan->inverse.twiddles = makeTwiddlesOfTwoColumns<T>(shape, true, arena);
+    return;
+  }
   const bool isLong = shape.size == FftSize::kLong;
   const bool inPairs = shape.size == FftSize::kSmallPairs;
   plan->forward.twiddles = makeTwiddles(shape, plan->forward.factor, false, arena);
