@@ -224,35 +224,38 @@ inline VekStatus filterByTransforms(FirFloatState<T>* state, const Data* src, Da
   std::fill(firstFrame, firstFrame + (shared - older), T{});
   std::copy(state->history() + 1, state->history() + state->taps(), firstFrame + (shared - older));
   load(src, firstFrame + shared, step);
-  const auto frameAt = [&](size_t frame) { return src + (frame * step - shared); };
-  const bool pastCaches = n >= std::min(kPastCachesBytes, streamingBytes) / sizeof(Data);
-  const VekStatus first =
-      filterFrame<T, Data>(*state, nullptr, length, frameAt(1), dst, pastCaches, 0, scaleFactor);
   moveHistory(state, src, n);
-  if (first != vekStsOk) return first;
-  const size_t frames = (n - 1) / step;  // that are left
+  const bool pastCaches = n >= std::min(kPastCachesBytes, streamingBytes) / sizeof(Data);
+  const size_t frames = (n - 1) / step + 1;
+  const auto frameAt = [&](size_t frame) {
+    return frame == 0 ? nullptr : src + (frame * step - shared);
+  };
   const auto filterNth = [&](size_t frame, size_t next, int thread) {
     const size_t start = frame * step;
     const size_t samples = shared + std::min(step, n - start);
-    return filterFrame(*state, frameAt(frame), samples, frameAt(std::min(next, frames)),
-                       dst + start, pastCaches, thread, scaleFactor);
+    return filterFrame(*state, frameAt(frame), samples, frameAt(next), dst + start, pastCaches,
+                       thread, scaleFactor);
   };
-  const auto filterEvery = [&](int thread, int threads) {
+  // Runs, because consecutive frames share samples, and lines of results. The frame of thread 0 has
+  // the first samples already.
+  const auto filterRun = [&](int thread, int threads) {
+    const size_t t = static_cast<size_t>(thread);
+    const size_t least = frames / static_cast<size_t>(threads);
+    const size_t longer = frames % static_cast<size_t>(threads);
+    const size_t end = (t + 1) * least + std::min(t + 1, longer);
     VekStatus status = vekStsOk;
-    const size_t stride = static_cast<size_t>(threads);
-    for (size_t i = 1 + static_cast<size_t>(thread); i <= frames && status == vekStsOk;
-         i += stride) {
-      status = filterNth(i, i + stride, thread);
+    for (size_t i = t * least + std::min(t, longer); i < end && status == vekStsOk; ++i) {
+      status = filterNth(i, std::min(i + 1, frames - 1), thread);
     }
     if (pastCaches) finishResults();
     transform.statuses[thread] = status;
   };
   std::fill(transform.statuses, transform.statuses + transform.threads, vekStsOk);
   if (n <= kMostAlone) {
-    filterEvery(0, 1);
+    filterRun(0, 1);
   } else {
-    const int team = teamFor<Data>(n - step, kProductsOfTransforms);
-    onTeam(std::min(transform.threads, team), filterEvery);
+    const int team = teamFor<Data>(n, kProductsOfTransforms);
+    onTeam(std::min(transform.threads, team), filterRun);
   }
   return *std::min_element(transform.statuses, transform.statuses + transform.threads);
 }

@@ -80,9 +80,8 @@ struct FirTransform {
   int32_t length;
   int32_t workSize;
   int32_t threads;
-  T* spectrum;  // of the taps
-  T* frames;
-  Vek8u* work;
+  T* spectrum;       // of the taps
+  Vek8u* ofThreads;  // a frame and work memory each
   VekStatus* statuses;
 
   VekStatus make(int tapsLen) {
@@ -123,16 +122,16 @@ struct FirTransform {
     if (context == nullptr) return;
     const uint64_t team = static_cast<uint64_t>(threads);
     spectrum = layout->take<T>(static_cast<uint64_t>(length));
-    frames = layout->take<T>(static_cast<uint64_t>(length) * team);
-    work = layout->take<Vek8u>(workStride() * team);
+    layout->take<Vek8u>(kApart);
+    ofThreads = layout->take<Vek8u>(threadBytes() * team);
     statuses = layout->take<VekStatus>(team);
   }
 
   T* frame(int thread) const {
-    return frames + static_cast<size_t>(length) * static_cast<size_t>(thread);
+    return reinterpret_cast<T*>(placeOf(thread));
   }
   Vek8u* workOf(int thread) const {
-    return workSize == 0 ? nullptr : work + workStride() * static_cast<size_t>(thread);
+    return workSize == 0 ? nullptr : placeOf(thread) + static_cast<size_t>(frameBytes());
   }
 
   // After an error the filter does without.
@@ -167,9 +166,21 @@ struct FirTransform {
   static const Lane* lanes(const T* samples) {
     return reinterpret_cast<const Lane*>(samples);
   }
-  // Threads do not share cache lines.
-  size_t workStride() const {
-    return (static_cast<size_t>(workSize) + 63) / 64 * 64;
+  // Processors fetch lines ahead, up to the end of a page, and so do transforms: lines of another
+  // thread's would be taken from it again and again.
+  static constexpr uint64_t kApart = 4096;
+
+  uint64_t frameBytes() const {
+    return static_cast<uint64_t>(length) * sizeof(T);
+  }
+  uint64_t workBytes() const {
+    return (static_cast<uint64_t>(workSize) + 63) / 64 * 64;
+  }
+  uint64_t threadBytes() const {
+    return frameBytes() + workBytes() + kApart;
+  }
+  Vek8u* placeOf(int thread) const {
+    return ofThreads + static_cast<size_t>(threadBytes()) * static_cast<size_t>(thread);
   }
 };
 
