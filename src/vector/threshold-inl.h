@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "core/loops-inl.h"
+#include "core/reciprocal-inl.h"
 #include "vector/limit-inl.h"
 #include "vector/threshold_complex-inl.h"
 #include "veks/types.h"
@@ -99,6 +100,23 @@ struct MagnitudeAtMost {
   }
 };
 
+#if HWY_TARGET <= HWY_AVX3
+// x as the inverse of a number with its sign and a magnitude of at least the level, but false where
+// an element needs more than refinedInverse(), or is NaN or -0.0.
+HWY_INLINE bool invertOrdinary(Floats& x, float level) {
+  constexpr int kLargerWithoutSign = 0xB;
+  constexpr int kNaNOrNegativeZero = 0x85;
+  constexpr int kNotNormal = 0xBF;
+  const auto bound = _mm512_set1_ps(level);
+  const Floats inverse = refinedInverse(Floats{_mm512_range_ps(x.raw, bound, kLargerWithoutSign)});
+  const __mmask16 special = _mm512_fpclass_ps_mask(x.raw, kNaNOrNegativeZero);
+  const __mmask16 unfit = _mm512_fpclass_ps_mask(inverse.raw, kNotNormal);
+  if (HWY_UNLIKELY(!_kortestz_mask16_u8(special, unfit))) return false;
+  x = hn::Or(inverse, hn::And(x, hn::SignBit(hn::Full512<float>())));
+  return true;
+}
+#endif
+
 // Sets *divided to nonzero where it divides by zero.
 template <class T>
 struct Inverted {
@@ -108,6 +126,12 @@ struct Inverted {
   template <class D>
   HWY_INLINE auto operator()(D d, size_t i) const {
     const auto x = hn::LoadU(d, src + i);
+#if HWY_TARGET <= HWY_AVX3
+    if constexpr (std::is_same_v<D, hn::Full512<float>>) {
+      Floats inverse = x;
+      if (HWY_LIKELY(invertOrdinary(inverse, level))) return inverse;
+    }
+#endif
     const auto divisor = magnitudeAtLeast(d, x, level, T{0});
     *divided |= hn::AllFalse(d, hn::Eq(divisor, hn::Zero(d))) ? 0 : 1;
     return hn::IfThenElse(hn::Eq(x, x), hn::Div(hn::Set(d, T{1}), divisor), x);

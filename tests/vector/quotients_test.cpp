@@ -283,12 +283,14 @@ template <class C>
 void checkIndependence(VekStatus (*divide)(const C*, const C*, C*, int), decltype(C::re) tiny) {
   using T = decltype(C::re);
   std::mt19937_64 random(12);
-  std::uniform_real_distribution<T> parts(-2, 2);
+  std::uniform_real_distribution<T> significands(-2, 2);
+  std::uniform_int_distribution<int> exponents(-15, 15);
+  const auto part = [&] { return std::ldexp(significands(random), exponents(random)); };
   std::vector<C> a(64);
   std::vector<C> b(64);
   for (size_t i = 0; i < a.size(); ++i) {
-    a[i] = {parts(random), parts(random)};
-    b[i] = {parts(random), parts(random)};
+    a[i] = {part(), part()};
+    b[i] = {part(), part()};
   }
   // Quotients whose real parts are differences of nearly equal products.
   b[1] = {std::nextafter(a[1].im, T{9}), -a[1].re};

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <random>
 
 #include "support.h"
@@ -209,6 +211,23 @@ void checkInverse(Forms<T, T> ltInv) {
 TEST(Threshold, Inverts) {
   checkInverse<Vek32f>({veksThreshold_LTInv_32f, veksThreshold_LTInv_32f_I});
   checkInverse<Vek64f>({veksThreshold_LTInv_64f, veksThreshold_LTInv_64f_I});
+}
+
+TEST(Threshold, InvertsEverySignificand) {
+  constexpr uint32_t kBlock = 1 << 14;
+  std::vector<Vek32f> src(kBlock);
+  std::vector<Vek32f> dst(kBlock);
+  onEveryTarget([&] {
+    for (uint32_t first = 0; first < 1 << 23; first += kBlock) {
+      for (uint32_t i = 0; i < kBlock; ++i) {
+        const uint32_t bits = (i % 2 << 31) | (120 + i % 16) << 23 | (first + i);
+        std::memcpy(&src[i], &bits, sizeof(bits));
+      }
+      ASSERT_EQ(veksThreshold_LTInv_32f(src.data(), dst.data(), kBlock, 0), vekStsOk);
+      for (Vek32f& x : src) x = 1 / x;
+      ASSERT_TRUE(sameBits(src, dst)) << "from " << first << " on";
+    }
+  });
 }
 
 // ---- Complex vectors

@@ -7,6 +7,7 @@
 #endif
 
 #include "vector/arithmetic/complex-inl.h"
+#include "vector/arithmetic/parted_quotients-inl.h"
 #include "vector/arithmetic/quotients-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -189,7 +190,17 @@ VekStatus DivComplexTwo(const C* src1, const C* src2, C* dst, size_t n) {
   bool zeroSeen = false;
   const ComplexQuotients<T> body{reinterpret_cast<const T*>(src1), reinterpret_cast<const T*>(src2),
                                  &zeroSeen};
-  produceCompact<2>(body, reinterpret_cast<T*>(dst), 2 * n, src1 == dst || src2 == dst);
+  const bool inPlace = src1 == dst || src2 == dst;
+#if HWY_TARGET <= HWY_AVX3
+  // Past the caches, memory takes longer than either.
+  if constexpr (std::is_same_v<T, float>) {
+    if (n >= 32 && 2 * n * sizeof(T) < streamingBytes) {
+      produceQuotients(body, reinterpret_cast<T*>(dst), 2 * n, inPlace);
+      return divisionStatus(zeroSeen);
+    }
+  }
+#endif
+  produceCompact<2>(body, reinterpret_cast<T*>(dst), 2 * n, inPlace);
   return divisionStatus(zeroSeen);
 }
 
