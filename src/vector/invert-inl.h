@@ -62,8 +62,13 @@ struct InvertedPairs<float> {
 #if HWY_TARGET <= HWY_AVX3
   SplitLevel splitLevel{level};
 
+  bool isSplit() const {
+    return splitLevel.isOrdinary || level == 0;
+  }
+
+  template <bool kMayVanish>
   HWY_INLINE bool mapSplit(Floats& first, Floats& second) const {
-    return invertSplit(splitLevel, first, second);
+    return invertSplit<kMayVanish>(splitLevel, first, second);
   }
 #endif
 };

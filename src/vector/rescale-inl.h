@@ -60,8 +60,13 @@ struct RescaledPairs<op, float> {
 #if HWY_TARGET <= HWY_AVX3
   SplitLevel splitLevel{level};
 
+  bool isSplit() const {
+    return splitLevel.isOrdinary;
+  }
+
+  template <bool kMayVanish>
   HWY_INLINE bool mapSplit(Floats& first, Floats& second) const {
-    return rescaleSplit<op>(splitLevel, first, second);
+    return rescaleSplit<op, kMayVanish>(splitLevel, first, second);
   }
 #endif
 };

@@ -57,6 +57,8 @@ struct RoundedSquares {
   Floats largerSquare;
   Floats sum;
 
+  static constexpr float kLeastPart = 0x1p-39F;
+
   explicit HWY_INLINE RoundedSquares(const PairParts& x) {
     constexpr int kGreater = 0xB;  // without the sign
     constexpr int kSmaller = 0xA;
@@ -72,32 +74,40 @@ struct RoundedSquares {
     return {sum, hn::Add(rest, hn::MulSub(larger, larger, largerSquare))};
   }
 
-  // Sums between 2^-62 and 2^62 with parts that are 0 or at least 2^-60: then no quotient is
-  // denormal.
+  // Sums up to 2^40 and parts of at least kLeastPart: then no rest of a square or of a result is
+  // denormal. Zeros and smaller parts next to larger ones take more to find.
+  template <bool kMayVanish>
   HWY_INLINE __mmask16 fit() const {
-    const auto least = _mm512_set1_epi32((127 - 62) << 23);
-    const auto above = _mm512_sub_epi32(_mm512_castps_si512(sum.raw), least);
-    const auto isFit = _mm512_cmplt_epu32_mask(above, _mm512_set1_epi32(124 << 23));
-    const auto lessOne = _mm512_add_epi32(_mm512_castps_si512(smaller.raw), _mm512_set1_epi32(-1));
-    const auto smallest = _mm512_set1_epi32(((127 - 60) << 23) - 1);
-    return _mm512_mask_cmpge_epu32_mask(isFit, lessOne, smallest);
+    const __mmask16 isSmall = _mm512_cmp_ps_mask(sum.raw, _mm512_set1_ps(0x1p40F), _CMP_LE_OQ);
+    if constexpr (kMayVanish) {
+      const auto least = _mm512_set1_ps(0x1p-76F);
+      const auto isFit = _mm512_mask_cmp_ps_mask(isSmall, sum.raw, least, _CMP_GE_OQ);
+      const auto lessOne = _mm512_sub_epi32(_mm512_castps_si512(smaller.raw), _mm512_set1_epi32(1));
+      const auto smallest = _mm512_set1_epi32(((127 - 50) << 23) - 1);
+      return _mm512_mask_cmpge_epu32_mask(isFit, lessOne, smallest);
+    }
+    return _mm512_mask_cmp_ps_mask(isSmall, smaller.raw, floats(kLeastPart).raw, _CMP_GE_OQ);
   }
 };
 
-// A level that is 0 or between 2^-30 and 2^30, and its square.
+// A level between 2^-30 and 2^20, or 0 for what only asks which are below, and its square.
 struct SplitLevel {
   float level;
-  float inverse;
   float high;
   float low;
-  bool isOrdinary;
+  bool isOrdinary;     // but for 0
+  float inverse;       // at most that of the level,
+  float inverseError;  // which is 1 + inverseError times as large, but for kShortage
+
+  static constexpr float kShortage = 0x1p-41F;
 
   explicit SplitLevel(float value)
       : level(value),
-        inverse(1 / value),
         high(value * value),
         low(static_cast<float>(double{value} * double{value} - double{high})),
-        isOrdinary(value == 0 || (value >= 0x1p-30F && value <= 0x1p30F)) {}
+        isOrdinary(value >= 0x1p-30F && value <= 0x1p20F),
+        inverse(isOrdinary ? roundedDown(1 / double{value}) : 0),
+        inverseError(isOrdinary ? excess(double{value} * double{inverse}) - kShortage : 0) {}
 
   // Whether rounded sums tell that none is OP the square.
   template <VekCmpOp op>
@@ -107,126 +117,112 @@ struct SplitLevel {
     return _mm512_cmp_ps_mask(sum.raw, limit.raw, kPredicate) == 0xFFFF;
   }
 
-  // The lanes that are OP the square, and those that are too close to tell.
+  // The lanes that are OP the square; for `greater`, with all infinite sums. Where 2^-43 of it
+  // decides, that does not matter: nor do results differ by more.
   template <VekCmpOp op>
-  HWY_INLINE __mmask16 compare(const SplitFloats& squares, __mmask16& doubtful) const {
-    constexpr int kPredicate = op == vekCmpLess ? _CMP_LT_OQ : _CMP_GT_OQ;
+  HWY_INLINE __mmask16 compare(const SplitFloats& squares) const {
+    constexpr int kPredicate = op == vekCmpLess ? _CMP_LT_OQ : _CMP_NLT_UQ;
+    const Floats difference = hn::Sub(squares.high, floats(high));
+    return _mm512_cmp_ps_mask(difference.raw, hn::Sub(floats(low), squares.low).raw, kPredicate);
+  }
+
+ private:
+  static float roundedDown(double x) {
+    const auto nearest = static_cast<float>(x);
+    return double{nearest} > x ? nearest * (1 - 0x1p-23F) : nearest;
+  }
+
+  static float excess(double product) {
+    return static_cast<float>(1 / product - 1);
+  }
+};
+
+// The inverse of the root of a sum of squares s, and its square, both rounded: root^2 s is
+// 1 - error, square s is 1 - squareError. The estimate is corrected to a value that is too small by
+// 2^-21, far beyond all roundings: the errors are between 2/3 and 4/3 of 2^-20.
+struct InverseRoot {
+  Floats root;
+  Floats square;
+  Floats squareError;
+  Floats rest;  // root^2 - square
+
+  explicit HWY_INLINE InverseRoot(const SplitFloats& s) {
+    const Floats estimate = approximateInverseRoot(s.high);
     const Floats difference =
-        hn::Add(hn::Sub(squares.high, floats(high)), hn::Sub(squares.low, floats(low)));
-    const Floats least = floats(high * 0x1p-38F);
-    doubtful = _mm512_cmp_ps_mask(hn::Abs(difference).raw, least.raw, _CMP_NGT_UQ);
-    return _mm512_cmp_ps_mask(difference.raw, _mm512_setzero_ps(), kPredicate);
+        hn::NegMulAdd(hn::Mul(s.high, estimate), estimate, floats(1 - 0x1p-20F));
+    root = hn::MulAdd(hn::Mul(estimate, floats(0.5F)), difference, estimate);
+    square = hn::Mul(root, root);
+    rest = hn::MulSub(root, root, square);
+    const Floats one = floats(1.0F);
+    squareError = hn::NegMulAdd(square, s.low, hn::NegMulAdd(square, s.high, one));
   }
 };
 
-// The root of a sum of squares but for 2^-43 of it, and its inverse but for 2^-23.
-struct SplitRoot {
-  SplitFloats root;
-  Floats inverse;
-};
-
-HWY_INLINE SplitRoot splitRoot(const SplitFloats& squares) {
-  const Floats estimate = approximateInverseRoot(squares.high);
-  const Floats error = hn::NegMulAdd(hn::Mul(squares.high, estimate), estimate, floats(1.0F));
-  const Floats inverse = hn::MulAdd(hn::Mul(estimate, floats(0.5F)), error, estimate);
-  const Floats root = hn::Mul(squares.high, inverse);
-  const Floats rest = hn::Add(hn::NegMulAdd(root, root, squares.high), squares.low);
-  return {{root, hn::Mul(rest, hn::Mul(inverse, floats(0.5F)))}, inverse};
-}
-
-// Quotients are sums of an estimate and a correction, which is off by at most 2^-42 of the
-// quotient. The middle between two floats is 2^-25 of it away from an estimate: if a correction as
-// close to that counts, a change of it by 2^-16, 2^-41 of the quotient, shows which side
-// is in doubt. Double precision is off by less than 2^-50.
-struct CorrectionFactors {
-  Floats less;
-  Floats more;
-
-  explicit HWY_INLINE CorrectionFactors(Floats inverse)
-      : less(hn::Mul(inverse, floats(1 - 0x1p-16F))),
-        more(hn::Mul(inverse, floats(1 + 0x1p-16F))) {}
-
-  // The estimate less the excess of the estimate times the divisor; adds to the doubtful lanes. In
-  // this order, zeros keep their sign.
-  HWY_INLINE Floats apply(Floats estimate, Floats excess, __mmask16& doubtful) const {
-    const Floats quotient = hn::NegMulAdd(excess, less, estimate);
-    doubtful |=
-        _mm512_cmp_ps_mask(quotient.raw, hn::NegMulAdd(excess, more, estimate).raw, _CMP_NEQ_UQ);
-    return quotient;
-  }
-};
-
-// part / divisor
-HWY_INLINE Floats splitQuotient(Floats part, const SplitFloats& divisor, Floats inverse,
-                                const CorrectionFactors& factors, __mmask16& doubtful) {
-  const Floats estimate = hn::Mul(part, inverse);
-  const Floats excess = hn::MulAdd(estimate, divisor.low, hn::MulSub(estimate, divisor.high, part));
-  return factors.apply(estimate, excess, doubtful);
-}
-
-// part level / root
-HWY_INLINE Floats splitRescaled(Floats part, Floats level, const SplitRoot& x, Floats scale,
-                                const CorrectionFactors& factors, __mmask16& doubtful) {
-  const Floats product = hn::Mul(part, level);
-  const Floats rest = hn::MulSub(part, level, product);
-  const Floats estimate = hn::Mul(part, scale);
-  const Floats excess =
-      hn::MulAdd(estimate, x.root.low, hn::MulSub(estimate, x.root.high, product));
-  return factors.apply(estimate, hn::Sub(excess, rest), doubtful);
+// A factor of all results, high + low, is too small, by 2^-42 to 2^-39.5 of it: an inverse
+// 1 / (1 - e) is 1 + e and an inverse root 1 + e / 2 less kShortage there, and all roundings are
+// less than what that leaves out. Results of double precision are off by less than 2^-50. The low
+// part is positive and at least 2^-22 of the high one, so that a product with 1 + 2^-17 of it is
+// too large: where both give the same float, this is the result.
+HWY_INLINE Floats moreOf(Floats low) {
+  return hn::Mul(low, floats(1 + 0x1p-17F));
 }
 
 // Pairs beyond the level get its magnitude. False where an element needs double precision.
-template <VekCmpOp op>
+template <VekCmpOp op, bool kMayVanish>
 HWY_INLINE bool rescaleSplit(const SplitLevel& level, Floats& first, Floats& second) {
   const PairParts x = partsOf(first, second);
   const RoundedSquares rounded(x);
   if (level.isFarFrom<op>(rounded.sum)) return true;
   const SplitFloats squares = rounded.split();
-  __mmask16 doubtful;
-  const __mmask16 beyond = level.compare<op>(squares, doubtful);
-  if (HWY_UNLIKELY(doubtful != 0)) return false;
-  const SplitRoot root = splitRoot(squares);
+  const __mmask16 beyond = level.compare<op>(squares);
+  const InverseRoot inverse(squares);
+  const Floats error = hn::NegMulAdd(inverse.rest, squares.high, inverse.squareError);
+  const Floats correction = hn::MulSub(error, floats(0.5F), floats(SplitLevel::kShortage));
   const Floats magnitude = floats(level.level);
-  const Floats scale = hn::Mul(root.inverse, magnitude);
-  const CorrectionFactors factors(root.inverse);
-  const Floats re = splitRescaled(x.re, magnitude, root, scale, factors, doubtful);
-  const Floats im = splitRescaled(x.im, magnitude, root, scale, factors, doubtful);
-  if (HWY_UNLIKELY((beyond & ~(rounded.fit() & ~doubtful)) != 0)) return false;
-  joinParts({Floats{_mm512_mask_mov_ps(x.re.raw, beyond, re.raw)},
-             Floats{_mm512_mask_mov_ps(x.im.raw, beyond, im.raw)}},
-            first, second);
+  const Floats high = hn::Mul(inverse.root, magnitude);
+  const Floats low = hn::MulAdd(high, correction, hn::MulSub(inverse.root, magnitude, high));
+  __mmask16 fit = beyond & rounded.fit<kMayVanish>();
+  const auto scaled = [&](Floats part) HWY_ATTR {
+    const Floats rest = hn::Mul(part, low);
+    const Floats result{_mm512_mask_fmadd_ps(part.raw, beyond, high.raw, rest.raw)};
+    const Floats other = hn::MulAdd(part, high, moreOf(rest));
+    fit = _mm512_mask_cmp_ps_mask(fit, result.raw, other.raw, _CMP_EQ_OQ);
+    return result;
+  };
+  const Floats re = scaled(x.re);
+  const Floats im = scaled(x.im);
+  if (HWY_UNLIKELY(fit != beyond)) return false;
+  joinParts({re, im}, first, second);
   return true;
 }
 
 // Inverses, the magnitude being at least the level.
+template <bool kMayVanish>
 HWY_INLINE bool invertSplit(const SplitLevel& level, Floats& first, Floats& second) {
   const PairParts x = partsOf(first, second);
   const RoundedSquares rounded(x);
-  SplitFloats divisor = rounded.split();
-  __mmask16 doubtful;
-  const __mmask16 below = level.compare<vekCmpLess>(divisor, doubtful);
-  if (HWY_UNLIKELY((rounded.fit() & ~doubtful) != 0xFFFF)) return false;
-  Floats inverse;
-  if (below == 0) {
-    const Floats estimate{_mm512_rcp14_ps(divisor.high.raw)};
-    const Floats error = hn::NegMulAdd(divisor.high, estimate, floats(1.0F));
-    inverse = hn::MulAdd(estimate, error, estimate);
-  } else {
-    const SplitRoot x2 = splitRoot(divisor);
-    const Floats magnitude = floats(level.level);
-    const Floats product = hn::Mul(x2.root.high, magnitude);
-    const Floats rest =
-        hn::MulAdd(x2.root.low, magnitude, hn::MulSub(x2.root.high, magnitude, product));
-    divisor.high = Floats{_mm512_mask_mov_ps(divisor.high.raw, below, product.raw)};
-    divisor.low = Floats{_mm512_mask_mov_ps(divisor.low.raw, below, rest.raw)};
-    const Floats other{_mm512_mask_mov_ps(x2.inverse.raw, below, floats(level.inverse).raw)};
-    inverse = hn::Mul(x2.inverse, other);
-  }
-  const CorrectionFactors factors(inverse);
-  const Floats re = splitQuotient(x.re, divisor, inverse, factors, doubtful);
-  const Floats im = splitQuotient(x.im, divisor, inverse, factors, doubtful);
-  if (HWY_UNLIKELY(doubtful != 0)) return false;
-  joinParts({re, hn::Neg(im)}, first, second);
+  const SplitFloats squares = rounded.split();
+  const __mmask16 below = level.compare<vekCmpLess>(squares);
+  __mmask16 fit = rounded.fit<kMayVanish>();
+  const InverseRoot inverse(squares);
+  const __m512 error =
+      _mm512_mask3_fnmadd_ps(inverse.rest.raw, squares.high.raw, inverse.squareError.raw, below);
+  const __m512 correction =
+      _mm512_mask_fmadd_ps(error, below, _mm512_set1_ps(0.5F), _mm512_set1_ps(level.inverseError));
+  const __m512 other = _mm512_set1_ps(level.inverse);
+  const Floats high{_mm512_mask_mul_ps(inverse.square.raw, below, inverse.root.raw, other)};
+  const __m512 rest = _mm512_maskz_fmsub_ps(below, inverse.root.raw, other, high.raw);
+  const Floats low{_mm512_fmadd_ps(high.raw, correction, rest)};
+  const Floats restOfRe = hn::Mul(x.re, low);
+  const Floats restOfIm = hn::Mul(x.im, low);
+  const Floats re = hn::MulAdd(x.re, high, restOfRe);
+  const Floats im = hn::NegMulSub(x.im, high, restOfIm);
+  fit = _mm512_mask_cmp_ps_mask(fit, re.raw, hn::MulAdd(x.re, high, moreOf(restOfRe)).raw,
+                                _CMP_EQ_OQ);
+  fit = _mm512_mask_cmp_ps_mask(fit, im.raw, hn::NegMulSub(x.im, high, moreOf(restOfIm)).raw,
+                                _CMP_EQ_OQ);
+  if (HWY_UNLIKELY(fit != 0xFFFF)) return false;
+  joinParts({re, im}, first, second);
   return true;
 }
 #endif

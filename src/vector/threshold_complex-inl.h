@@ -38,8 +38,9 @@ template <class F, class T>
 constexpr bool kPrefetchesSource<MappedPairs<F, T>> = true;
 
 #if HWY_TARGET <= HWY_AVX3
-// Functions that try two vectors at a time first: f.mapSplit(first, second) gives the results, or
-// false and leaves both.
+// Functions that try two vectors at a time first: f.mapSplit<kMayVanish>(first, second) gives the
+// results, or false where it cannot. Parts that vanish, zeros or next to it, take longer: without
+// kMayVanish it gives them up.
 template <class F>
 constexpr bool kIsSplit = false;
 template <VekCmpOp op>
@@ -47,43 +48,64 @@ constexpr bool kIsSplit<RescaledPairs<op, float>> = true;
 template <>
 constexpr bool kIsSplit<InvertedPairs<float>> = true;
 
-template <Stores stores, class F>
-HWY_INLINE void mapTwoVectors(const F& f, const float* src, float* dst) {
+template <Stores stores, bool kMayVanish, class F>
+HWY_INLINE bool mapTwoVectors(const F& f, const float* src, float* dst) {
   const ManyPairs d;
   Floats first = hn::LoadU(d, src);
   Floats second = hn::LoadU(d, src + 16);
-  if (HWY_UNLIKELY(!f.mapSplit(first, second))) {
-    first = f(d, first);
-    second = f(d, second);
-  }
+  if (HWY_UNLIKELY(!f.template mapSplit<kMayVanish>(first, second))) return false;
   store<stores>(d, first, dst);
   store<stores>(d, second, dst + 16);
+  return true;
 }
 
+// Where the short way fails. Returns whether parts that vanish are the reason.
 template <Stores stores, class F>
-HWY_INLINE size_t mapTwoAhead(const F& f, const float* src, float* dst, size_t n) {
-  constexpr size_t kAhead = 80 * 16;
-  size_t i = 0;
+HWY_NOINLINE bool mapOtherVectors(const F& f, const float* src, float* dst) {
+  const ManyPairs d;
+  const Floats least = hn::Min(hn::Abs(hn::LoadU(d, src)), hn::Abs(hn::LoadU(d, src + 16)));
+  const bool vanish = !hn::AllFalse(d, hn::Lt(least, floats(RoundedSquares::kLeastPart)));
+  if (vanish && mapTwoVectors<stores, true>(f, src, dst)) return true;
+  const Floats first = f(d, hn::LoadU(d, src));
+  const Floats second = f(d, hn::LoadU(d, src + 16));
+  store<stores>(d, first, dst);
+  store<stores>(d, second, dst + 16);
+  return false;
+}
+
+// Floats i .. n - 1, but for the last ones, up to kAhead + 31. Returns where it stopped: without
+// kMayVanish, maybe after the first parts that vanish, because others will follow.
+template <Stores stores, bool kMayVanish, size_t kAhead, class F>
+HWY_INLINE size_t mapRun(const F& f, const float* src, float* dst, size_t i, size_t n) {
   for (; i + kAhead + 32 <= n; i += 32) {
-    __builtin_prefetch(src + i + kAhead, 0, 2);
-    __builtin_prefetch(src + i + kAhead + 16, 0, 2);
-    mapTwoVectors<stores>(f, src + i, dst + i);
+    if (kAhead > 0) {
+      __builtin_prefetch(src + i + kAhead, 0, 2);
+      __builtin_prefetch(src + i + kAhead + 16, 0, 2);
+    }
+    if (HWY_LIKELY((mapTwoVectors<stores, kMayVanish>(f, src + i, dst + i)))) continue;
+    if (mapOtherVectors<stores>(f, src + i, dst + i) && !kMayVanish) return i + 32;
   }
-  if (stores == Stores::kStreaming) hwy::FlushStream();
   return i;
+}
+
+template <Stores stores, size_t kAhead, class F>
+HWY_INLINE size_t mapRuns(const F& f, const float* src, float* dst, size_t i, size_t n) {
+  i = mapRun<stores, false, kAhead>(f, src, dst, i, n);
+  return mapRun<stores, true, kAhead>(f, src, dst, i, n);
 }
 
 // n floats from a boundary of the destination on, but for the last ones. Returns where it stopped.
 template <class F>
 HWY_INLINE size_t mapSplitPairs(const F& f, const float* src, float* dst, size_t n, bool inPlace) {
+  constexpr size_t kAhead = 80 * 16;
   size_t i = 0;
   if (wantsStreaming<2>(dst, n, inPlace)) {
-    i = mapTwoAhead<Stores::kStreaming>(f, src, dst, n);
+    i = mapRuns<Stores::kStreaming, kAhead>(f, src, dst, i, n);
+    hwy::FlushStream();
   } else if (wantsPrefetching<MappedPairs<F, float>, float>(n, inPlace)) {
-    i = mapTwoAhead<Stores::kCached>(f, src, dst, n);
+    i = mapRuns<Stores::kCached, kAhead>(f, src, dst, i, n);
   }
-  for (; i + 32 <= n; i += 32) mapTwoVectors<Stores::kCached>(f, src + i, dst + i);
-  return i;
+  return mapRuns<Stores::kCached, 0>(f, src, dst, i, n);
 }
 #endif
 
@@ -95,7 +117,7 @@ HWY_INLINE VekStatus mapPairs(const F& f, const C* src, C* dst, size_t n) {
   n *= 2;
 #if HWY_TARGET <= HWY_AVX3
   if constexpr (kIsSplit<F>) {
-    if (n >= 64 && f.splitLevel.isOrdinary) {
+    if (n >= 64 && f.isSplit()) {
       const size_t head = lanesToBoundary<2>(to, 16);
       produce<2>(MappedPairs<F, T>{from, f}, to, head, src == dst);
       const size_t done = head + mapSplitPairs(f, from + head, to + head, n - head, src == dst);

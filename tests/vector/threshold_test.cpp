@@ -511,7 +511,7 @@ Vek32fc scaledInDouble(Vek32fc x, double scale) {
 }
 
 TEST(ComplexThreshold, FloatsAreRoundedDoubles) {
-  for (const float level : {0.7F, 1.0F, 1e-5F, 3e8F, 1e-20F}) {
+  for (const float level : {0.7F, 1.0F, 1e-5F, 3e5F, 3e8F, 1e-20F}) {
     const std::vector<Vek32fc> pool = ordinaryPairs(level);
     const double square = double{level} * level;
     const auto less = [=](Vek32fc& x) {
