@@ -134,9 +134,10 @@ HWY_INLINE size_t produceSteps(D d, const Body& body, T* dst, size_t i, size_t n
   return i;
 }
 
-// From this many bytes on, steps are short. The processor prefetches a step ahead of every load,
-// past the ends too, which drives out what is used next where three vectors just fill the L1 cache
-// of 48 KiB. A tenth is lost with four vectors of 64 bytes.
+// From this many bytes on, steps from two vectors to a third are short. The processor prefetches a
+// step ahead of every load, past the ends too, which drives out what is used next where three
+// vectors just fill the L1 cache of 48 KiB. A tenth is lost with four vectors of 64 bytes. Bodies
+// of one source, in place or of many instructions lose by short steps instead.
 constexpr size_t kThirdOfCache = size_t{15} << 10;
 
 // dst[i] = body for i = 0 .. n - 1, in ascending order, n more than two vectors. The body may read
@@ -161,8 +162,8 @@ HWY_INLINE void produceLoop(const Body& body, T* dst, size_t n, bool inPlace) {
   } else if constexpr (kPrefetchesSource<Body>) {
     i = producePrefetched<stores>(body, body.src, dst, i, n);
   }
-  if constexpr (kLanes * sizeof(T) == 64) {
-    if (HWY_UNLIKELY(n * sizeof(T) >= kThirdOfCache)) {
+  if constexpr (kReadsTwoVectors<Body> && kLanes * sizeof(T) == 64) {
+    if (HWY_UNLIKELY(!inPlace && n * sizeof(T) >= kThirdOfCache)) {
       i = produceSteps<2, stores>(d, body, dst, i, n);
     }
   }

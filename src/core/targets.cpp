@@ -41,8 +41,7 @@ __attribute__((constructor(101))) void chooseTarget() {
 
 }  // namespace
 
-int activeTarget = 0;
-size_t streamingBytes = size_t{32} << 20;
+Findings findings = {0, size_t{32} << 20};
 
 // The first target is the baseline of the build: the processor has it, or no code would run.
 int targetCount() {

@@ -67,12 +67,20 @@ namespace veks {
 
 #define VEKS_HIDDEN __attribute__((visibility("hidden")))
 
-// Position of the active target among the targets of the build, worst first. Set when the library
-// is loaded and constant from then on; calls before that run on the worst target.
-extern VEKS_HIDDEN int activeTarget;
+// Set when the library is loaded and constant from then on. All in one cache line: each one that a
+// call reads besides its vectors drives out others where these just fill a cache.
+struct alignas(16) Findings {
+  int activeTarget;
+  size_t streamingBytes;
+};
+extern VEKS_HIDDEN Findings findings;
+
+// Position of the active target among the targets of the build, worst first. Calls before the
+// library has set it run on the worst target.
+inline constexpr int& activeTarget = findings.activeTarget;
 
 // Destinations of at least this many bytes are written past the caches.
-extern VEKS_HIDDEN size_t streamingBytes;
+inline constexpr size_t& streamingBytes = findings.streamingBytes;
 
 // What the static library offers to tests: all targets that both the build and the processor have,
 // worst first, and the choice among them.
